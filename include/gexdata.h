@@ -1,0 +1,209 @@
+/* gexIP data movement and conversion: copies, fills, channel moves,
+ * depth conversion. */
+#ifndef GEXDATA_H
+#define GEXDATA_H
+
+#include "gexdefs.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Copy ---------------------------------------------------------------
+ * No step is checked: any step, zero and negative included, is used as given. */
+
+/* 8u */
+GexStatus gexiCopy_8u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_AC4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C3C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C4C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C1C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C1C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C3CR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C4CR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C3AC4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_AC4C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C3P3R(const Gex8u* pSrc, int srcStep, Gex8u* const pDst[3], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C4P4R(const Gex8u* pSrc, int srcStep, Gex8u* const pDst[4], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_P3C3R(const Gex8u* const pSrc[3], int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_P4C4R(const Gex8u* const pSrc[4], int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_8u_C1MR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_8u_C3MR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_8u_C4MR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_8u_AC4MR(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_8u_C1R_L(const Gex8u* pSrc, Gex64s srcStep, Gex8u* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_8u_C3R_L(const Gex8u* pSrc, Gex64s srcStep, Gex8u* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_8u_C4R_L(const Gex8u* pSrc, Gex64s srcStep, Gex8u* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_8u_AC4R_L(const Gex8u* pSrc, Gex64s srcStep, Gex8u* pDst, Gex64s dstStep, GexiSizeL roiSize);
+
+/* 16u */
+GexStatus gexiCopy_16u_C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_AC4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C3C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C4C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C1C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C1C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C3CR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C4CR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C3AC4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_AC4C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C3P3R(const Gex16u* pSrc, int srcStep, Gex16u* const pDst[3], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C4P4R(const Gex16u* pSrc, int srcStep, Gex16u* const pDst[4], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_P3C3R(const Gex16u* const pSrc[3], int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_P4C4R(const Gex16u* const pSrc[4], int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16u_C1MR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16u_C3MR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16u_C4MR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16u_AC4MR(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 16s */
+GexStatus gexiCopy_16s_C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_AC4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C3C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C4C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C1C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C1C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C3CR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C4CR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C3AC4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_AC4C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C3P3R(const Gex16s* pSrc, int srcStep, Gex16s* const pDst[3], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C4P4R(const Gex16s* pSrc, int srcStep, Gex16s* const pDst[4], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_P3C3R(const Gex16s* const pSrc[3], int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_P4C4R(const Gex16s* const pSrc[4], int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_16s_C1MR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16s_C3MR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16s_C4MR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_16s_AC4MR(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 32s */
+GexStatus gexiCopy_32s_C1R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_AC4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C3C1R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C4C1R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C1C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C1C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C3CR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C4CR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C3AC4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_AC4C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C3P3R(const Gex32s* pSrc, int srcStep, Gex32s* const pDst[3], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C4P4R(const Gex32s* pSrc, int srcStep, Gex32s* const pDst[4], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_P3C3R(const Gex32s* const pSrc[3], int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_P4C4R(const Gex32s* const pSrc[4], int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32s_C1MR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32s_C3MR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32s_C4MR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32s_AC4MR(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 32f */
+GexStatus gexiCopy_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C3C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C4C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C1C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C1C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C3CR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C4CR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C3AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_AC4C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C3P3R(const Gex32f* pSrc, int srcStep, Gex32f* const pDst[3], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C4P4R(const Gex32f* pSrc, int srcStep, Gex32f* const pDst[4], int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_P3C3R(const Gex32f* const pSrc[3], int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_P4C4R(const Gex32f* const pSrc[4], int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiCopy_32f_C1MR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32f_C3MR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32f_C4MR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32f_AC4MR(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiCopy_32f_C1R_L(const Gex32f* pSrc, Gex64s srcStep, Gex32f* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_32f_C3R_L(const Gex32f* pSrc, Gex64s srcStep, Gex32f* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_32f_C4R_L(const Gex32f* pSrc, Gex64s srcStep, Gex32f* pDst, Gex64s dstStep, GexiSizeL roiSize);
+GexStatus gexiCopy_32f_AC4R_L(const Gex32f* pSrc, Gex64s srcStep, Gex32f* pDst, Gex64s dstStep, GexiSizeL roiSize);
+
+/* flags: 1 non-temporal stores (and a store fence), 2 also streaming loads. */
+GexStatus gexiCopyManaged_8u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, int flags);
+
+/* ---- Set ----------------------------------------------------------------
+ * Multi-channel forms take one value per colour channel (three for AC4, whose
+ * fourth channel is left alone); C3CR and C4CR write the one channel at the
+ * offset of pDst. */
+
+/* 8u */
+GexStatus gexiSet_8u_C1R(Gex8u value, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_C3R(const Gex8u value[3], Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_C4R(const Gex8u value[4], Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_AC4R(const Gex8u value[3], Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_C3CR(Gex8u value, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_C4CR(Gex8u value, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_8u_C1MR(Gex8u value, Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_8u_C3MR(const Gex8u value[3], Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_8u_C4MR(const Gex8u value[4], Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_8u_AC4MR(const Gex8u value[3], Gex8u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 16u */
+GexStatus gexiSet_16u_C1R(Gex16u value, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_C3R(const Gex16u value[3], Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_C4R(const Gex16u value[4], Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_AC4R(const Gex16u value[3], Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_C3CR(Gex16u value, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_C4CR(Gex16u value, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16u_C1MR(Gex16u value, Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16u_C3MR(const Gex16u value[3], Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16u_C4MR(const Gex16u value[4], Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16u_AC4MR(const Gex16u value[3], Gex16u* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 16s */
+GexStatus gexiSet_16s_C1R(Gex16s value, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_C3R(const Gex16s value[3], Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_C4R(const Gex16s value[4], Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_AC4R(const Gex16s value[3], Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_C3CR(Gex16s value, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_C4CR(Gex16s value, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_16s_C1MR(Gex16s value, Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16s_C3MR(const Gex16s value[3], Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16s_C4MR(const Gex16s value[4], Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_16s_AC4MR(const Gex16s value[3], Gex16s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 32s */
+GexStatus gexiSet_32s_C1R(Gex32s value, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_C3R(const Gex32s value[3], Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_C4R(const Gex32s value[4], Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_AC4R(const Gex32s value[3], Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_C3CR(Gex32s value, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_C4CR(Gex32s value, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32s_C1MR(Gex32s value, Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32s_C3MR(const Gex32s value[3], Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32s_C4MR(const Gex32s value[4], Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32s_AC4MR(const Gex32s value[3], Gex32s* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* 32f */
+GexStatus gexiSet_32f_C1R(Gex32f value, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_C3R(const Gex32f value[3], Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_C4R(const Gex32f value[4], Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_AC4R(const Gex32f value[3], Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_C3CR(Gex32f value, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_C4CR(Gex32f value, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiSet_32f_C1MR(Gex32f value, Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32f_C3MR(const Gex32f value[3], Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32f_C4MR(const Gex32f value[4], Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+GexStatus gexiSet_32f_AC4MR(const Gex32f value[3], Gex32f* pDst, int dstStep, GexiSize roiSize, const Gex8u* pMask, int maskStep);
+
+/* ---- Dup: each source pixel to every channel of the destination pixel ---- */
+GexStatus gexiDup_8u_C1C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiDup_8u_C1C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* GEXDATA_H */
