@@ -202,6 +202,18 @@ GexStatus gexiSet_32f_AC4MR(const Gex32f value[3], Gex32f* pDst, int dstStep, Ge
 GexStatus gexiDup_8u_C1C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
 GexStatus gexiDup_8u_C1C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
 
+/* ---- Convert -------------------------------------------------------------- */
+
+/* (end of Convert) */
+
+/* ---- Scale, ScaleC, BinToGray, GrayToBin ------------------------------------ */
+
+/* (end of Scale) */
+
+/* ---- SwapChannels, Transpose, Mirror ---------------------------------------- */
+
+/* (end of channel and layout moves) */
+
 #ifdef __cplusplus
 }
 #endif
