@@ -20,6 +20,9 @@
 //  * Four channels. A lane holds whole pixels; a byte shuffle sorts a lane
 //    into four dwords, one per channel, and dword permutes across two vectors
 //    gather a plane (or, backwards, a stream vector).
+//  * One channel of three, or one into three, for 16- and 32-bit elements:
+//    element permutes reach across vectors directly (Pick3, Repeat3), which
+//    is cheaper than the lane regrouping.
 //
 // Row ends are handled by the same block code on masked loads and stores:
 // no kernel touches memory outside the row's elements.
@@ -334,6 +337,55 @@ struct Spread4 {
     }
 };
 
+// ---- element permutes for 16- and 32-bit elements -------------------------------
+
+// An index vector of L elements of U, element j = f(j).
+template <class U, class F>
+inline __m512i index_of(F f) {
+    alignas(64) U ix[kL<U>];
+    for (int j = 0; j < kL<U>; ++j) ix[j] = static_cast<U>(f(j));
+    return _mm512_load_si512(ix);
+}
+
+template <class U>
+inline __m512i permute(__m512i idx, __m512i v) {
+    if constexpr (kE<U> == 2) return _mm512_permutexvar_epi16(idx, v);
+    else return _mm512_permutexvar_epi32(idx, v);
+}
+template <class U>
+inline __m512i permute2(__m512i a, __m512i idx, __m512i b) {
+    if constexpr (kE<U> == 2) return _mm512_permutex2var_epi16(a, idx, b);
+    else return _mm512_permutex2var_epi32(a, idx, b);
+}
+template <class U>
+inline __m512i mask_permute(__m512i src, typename simd::Mask<kE<U>>::type k, __m512i idx, __m512i v) {
+    if constexpr (kE<U> == 2) return _mm512_mask_permutexvar_epi16(src, k, idx, v);
+    else return _mm512_mask_permutexvar_epi32(src, k, idx, v);
+}
+
+// Every third element of three vectors r0 r1 r2: elements 3j below 2L come
+// from r0:r1, the others from r2.
+template <class U>
+struct Pick3 {
+    static constexpr int L = kL<U>;
+    using M = typename simd::Mask<kE<U>>::type;
+    __m512i lo = index_of<U>([](int j) { return 3 * j < 2 * L ? 3 * j : 0; });
+    __m512i hi = index_of<U>([](int j) { return 3 * j < 2 * L ? 0 : 3 * j - 2 * L; });
+    M from_r2 = M(~M(0) << ((2 * L + 2) / 3));
+    __m512i operator()(__m512i r0, __m512i r1, __m512i r2) const {
+        return mask_permute<U>(permute2<U>(r0, lo, r1), from_r2, hi, r2);
+    }
+};
+
+// One vector of pixels repeated three times over stream vector r.
+template <class U>
+struct Repeat3 {
+    static constexpr int L = kL<U>;
+    __m512i ix[3] = {index_of<U>([](int j) { return j / 3; }), index_of<U>([](int j) { return (L + j) / 3; }),
+                     index_of<U>([](int j) { return (2 * L + j) / 3; })};
+    __m512i operator()(__m512i v, int r) const { return permute<U>(ix[r], v); }
+};
+
 // =============================================================================
 // Row kernels. w counts pixels; pointers address the row's first element (of
 // the selected channel where a channel is selected by the pointer).
@@ -352,7 +404,19 @@ void extract_vec(const U* s, U* d, std::int64_t w) {
     // The last pixel of a row is its channel's element only: stream element
     // N*(w-1) is the row's last readable one, so the block reads at most
     // N*(rem-1)+1 elements.
-    if constexpr (N == 3) {
+    if constexpr (N == 3 && kE<U> > 1) {
+        const Pick3<U> pick;
+        std::int64_t x = 0;
+        for (; x + L < w; x += L) {
+            const U* p = s + 3 * x;
+            store(d + x, pick(_mm512_loadu_si512(p), _mm512_loadu_si512(p + L), _mm512_loadu_si512(p + 2 * L)));
+        }
+        const std::int64_t bytes = (3 * (w - x) - 2) * kE<U>;
+        const U* p = s + 3 * x;
+        simd::store_masked<kE<U>>(d + x, head<U>(w - x),
+                                  pick(load_bytes(p, bytes), load_bytes(p + L, bytes - 64),
+                                       load_bytes(p + 2 * L, bytes - 128)));
+    } else if constexpr (N == 3) {
         const Split3<U> sp;
         std::int64_t x = 0;
         for (; x + L < w; x += L) {
@@ -399,9 +463,14 @@ void insert_vec(const U* s, U* d, std::int64_t w) {
     [[maybe_unused]] const M m0 = M(channel0_bits<U, N>(0)), m1 = M(channel0_bits<U, N>(1)),
                              m2 = M(channel0_bits<U, N>(2));
     // The last element written is N*(w-1): a block's element count is N*rem-N+1.
-    const std::conditional_t<N == 3, Spread3<U>, Spread4<U>> sp;
+    using Spread = std::conditional_t<N == 4, Spread4<U>, std::conditional_t<kE<U> == 1, Spread3<U>, Repeat3<U>>>;
+    const Spread sp;
     auto block = [&](const __m512i v, U* q, std::int64_t elems) {
-        if constexpr (N == 3) {
+        if constexpr (N == 3 && kE<U> > 1) {
+            simd::store_masked<kE<U>>(q, M(m0 & head<U>(elems)), sp(v, 0));
+            simd::store_masked<kE<U>>(q + L, M(m1 & head<U>(elems - L)), sp(v, 1));
+            simd::store_masked<kE<U>>(q + 2 * L, M(m2 & head<U>(elems - 2 * L)), sp(v, 2));
+        } else if constexpr (N == 3) {
             const Tri t = sp.stream(v);
             simd::store_masked<kE<U>>(q, M(m0 & head<U>(elems)), t.v0);
             simd::store_masked<kE<U>>(q + L, M(m1 & head<U>(elems - L)), t.v1);
@@ -498,7 +567,43 @@ void ac4c3_vec(const U* s, U* d, std::int64_t w) {
     }
 }
 
-// ---- C3P3, P3C3 -------------------------------------------------------------------
+// ---- C3P3, P3C3, C4P4, P4C4 ----------------------------------------------------------
+// With NT the full vectors go out with non-temporal stores, for data too large
+// for the cache. Those stores need 64-byte aligned addresses, so a first
+// partial block runs with ordinary stores up to the first aligned pixel; where
+// no pixel count aligns all destinations, the row runs with ordinary stores.
+// Either way the pixels are the same.
+
+template <bool NT>
+inline void put(void* p, __m512i v) {
+    if constexpr (NT) _mm512_stream_si512(static_cast<__m512i*>(p), v);
+    else _mm512_storeu_si512(p, v);
+}
+
+inline std::int64_t offset64(const void* p) { return static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(p) % 64); }
+
+// Pixels before planes d[0..n) are 64-byte aligned together, or -1.
+template <class U>
+std::int64_t planar_peel(U* const* d, int n) {
+    const std::int64_t a = offset64(d[0]);
+    if (a % kE<U> != 0) return -1;
+    for (int c = 1; c < n; ++c)
+        if (offset64(d[c]) != a) return -1;
+    return (64 - a) % 64 / kE<U>;
+}
+
+// Pixels of N channels before an interleaved destination is 64-byte aligned,
+// or -1. For N = 3: 3p = -a (mod L), and 43 is the inverse of 3 modulo 64,
+// 32 and 16.
+template <class U, int N>
+std::int64_t interleaved_peel(const U* d) {
+    constexpr int L = kL<U>;
+    const std::int64_t a = offset64(d);
+    if (a % kE<U> != 0) return -1;
+    const std::int64_t behind = (L - a / kE<U>) % L;  // elements to the next aligned address
+    if constexpr (N == 3) return behind * 43 % L;
+    else return behind % 4 == 0 ? behind / 4 : -1;
+}
 
 template <class U>
 void split3_ref(const U* s, U* const d[3], std::int64_t w) {
@@ -506,24 +611,15 @@ void split3_ref(const U* s, U* const d[3], std::int64_t w) {
         for (int c = 0; c < 3; ++c) d[c][x] = s[3 * x + c];
 }
 
-template <class U>
+template <class U, bool NT = false>
 void split3_vec(const U* s, U* const d[3], std::int64_t w) {
     constexpr int L = kL<U>;
     const Split3<U> sp;
     U* const d0 = d[0];
     U* const d1 = d[1];
     U* const d2 = d[2];
-    std::int64_t x = 0;
-    for (; x + L <= w; x += L) {
-        const U* p = s + 3 * x;
-        const Tri g = stream_to_groups(_mm512_loadu_si512(p), _mm512_loadu_si512(p + L),
-                                       _mm512_loadu_si512(p + 2 * L));
-        store(d0 + x, sp.plane(g, 0));
-        store(d1 + x, sp.plane(g, 1));
-        store(d2 + x, sp.plane(g, 2));
-    }
-    if (x < w) {
-        const std::int64_t rem = w - x, bytes = 3 * rem * kE<U>;
+    auto part = [&](std::int64_t x, std::int64_t rem) {
+        const std::int64_t bytes = 3 * rem * kE<U>;
         const U* p = s + 3 * x;
         const Tri g = stream_to_groups(load_bytes(p, bytes), load_bytes(p + L, bytes - 64),
                                        load_bytes(p + 2 * L, bytes - 128));
@@ -531,7 +627,24 @@ void split3_vec(const U* s, U* const d[3], std::int64_t w) {
         simd::store_masked<kE<U>>(d0 + x, k, sp.plane(g, 0));
         simd::store_masked<kE<U>>(d1 + x, k, sp.plane(g, 1));
         simd::store_masked<kE<U>>(d2 + x, k, sp.plane(g, 2));
+    };
+    std::int64_t x = 0;
+    if constexpr (NT) {
+        const std::int64_t peel = planar_peel(d, 3);
+        if (peel < 0) return split3_vec<U, false>(s, d, w);
+        x = peel < w ? peel : w;
+        if (x > 0) part(0, x);
     }
+    for (; x + L <= w; x += L) {
+        const U* p = s + 3 * x;
+        const Tri g = stream_to_groups(_mm512_loadu_si512(p), _mm512_loadu_si512(p + L),
+                                       _mm512_loadu_si512(p + 2 * L));
+        put<NT>(d0 + x, sp.plane(g, 0));
+        put<NT>(d1 + x, sp.plane(g, 1));
+        put<NT>(d2 + x, sp.plane(g, 2));
+    }
+    if (x < w) part(x, w - x);
+    if constexpr (NT) simd::store_fence();
 }
 
 template <class U>
@@ -540,23 +653,15 @@ void merge3_ref(const U* const s[3], U* d, std::int64_t w) {
         for (int c = 0; c < 3; ++c) d[3 * x + c] = s[c][x];
 }
 
-template <class U>
+template <class U, bool NT = false>
 void merge3_vec(const U* const s[3], U* d, std::int64_t w) {
     constexpr int L = kL<U>;
     const Merge3<U> mg;
     const U* const s0 = s[0];
     const U* const s1 = s[1];
     const U* const s2 = s[2];
-    std::int64_t x = 0;
-    for (; x + L <= w; x += L) {
-        const Tri t = mg.stream(_mm512_loadu_si512(s0 + x), _mm512_loadu_si512(s1 + x), _mm512_loadu_si512(s2 + x));
-        U* q = d + 3 * x;
-        store(q, t.v0);
-        store(q + L, t.v1);
-        store(q + 2 * L, t.v2);
-    }
-    if (x < w) {
-        const std::int64_t rem = w - x, bytes = 3 * rem * kE<U>;
+    auto part = [&](std::int64_t x, std::int64_t rem) {
+        const std::int64_t bytes = 3 * rem * kE<U>;
         const auto k = head<U>(rem);
         const Tri t = mg.stream(simd::load_masked<kE<U>>(s0 + x, k), simd::load_masked<kE<U>>(s1 + x, k),
                                 simd::load_masked<kE<U>>(s2 + x, k));
@@ -564,10 +669,24 @@ void merge3_vec(const U* const s[3], U* d, std::int64_t w) {
         _mm512_mask_storeu_epi8(q, head_bytes(bytes), t.v0);
         _mm512_mask_storeu_epi8(q + L, head_bytes(bytes - 64), t.v1);
         _mm512_mask_storeu_epi8(q + 2 * L, head_bytes(bytes - 128), t.v2);
+    };
+    std::int64_t x = 0;
+    if constexpr (NT) {
+        const std::int64_t peel = interleaved_peel<U, 3>(d);
+        if (peel < 0) return merge3_vec<U, false>(s, d, w);
+        x = peel < w ? peel : w;
+        if (x > 0) part(0, x);
     }
+    for (; x + L <= w; x += L) {
+        const Tri t = mg.stream(_mm512_loadu_si512(s0 + x), _mm512_loadu_si512(s1 + x), _mm512_loadu_si512(s2 + x));
+        U* q = d + 3 * x;
+        put<NT>(q, t.v0);
+        put<NT>(q + L, t.v1);
+        put<NT>(q + 2 * L, t.v2);
+    }
+    if (x < w) part(x, w - x);
+    if constexpr (NT) simd::store_fence();
 }
-
-// ---- C4P4, P4C4 -------------------------------------------------------------------
 
 template <class U>
 void split4_ref(const U* s, U* const d[4], std::int64_t w) {
@@ -575,28 +694,36 @@ void split4_ref(const U* s, U* const d[4], std::int64_t w) {
         for (int c = 0; c < 4; ++c) d[c][x] = s[4 * x + c];
 }
 
-template <class U>
+template <class U, bool NT = false>
 void split4_vec(const U* s, U* const d[4], std::int64_t w) {
     constexpr int L = kL<U>;
     const Split4<U> sp;
     U* const dd[4] = {d[0], d[1], d[2], d[3]};
-    std::int64_t x = 0;
-    for (; x + L <= w; x += L) {
-        const U* p = s + 4 * x;
-        const __m512i v[4] = {sp.sorted(_mm512_loadu_si512(p)), sp.sorted(_mm512_loadu_si512(p + L)),
-                              sp.sorted(_mm512_loadu_si512(p + 2 * L)),
-                              sp.sorted(_mm512_loadu_si512(p + 3 * L))};
-        for (int c = 0; c < 4; ++c) store(dd[c] + x, sp.plane(v, c));
-    }
-    if (x < w) {
-        const std::int64_t rem = w - x, bytes = 4 * rem * kE<U>;
+    auto part = [&](std::int64_t x, std::int64_t rem) {
+        const std::int64_t bytes = 4 * rem * kE<U>;
         const U* p = s + 4 * x;
         const __m512i v[4] = {sp.sorted(load_bytes(p, bytes)), sp.sorted(load_bytes(p + L, bytes - 64)),
                               sp.sorted(load_bytes(p + 2 * L, bytes - 128)),
                               sp.sorted(load_bytes(p + 3 * L, bytes - 192))};
         const auto k = head<U>(rem);
         for (int c = 0; c < 4; ++c) simd::store_masked<kE<U>>(dd[c] + x, k, sp.plane(v, c));
+    };
+    std::int64_t x = 0;
+    if constexpr (NT) {
+        const std::int64_t peel = planar_peel(d, 4);
+        if (peel < 0) return split4_vec<U, false>(s, d, w);
+        x = peel < w ? peel : w;
+        if (x > 0) part(0, x);
     }
+    for (; x + L <= w; x += L) {
+        const U* p = s + 4 * x;
+        const __m512i v[4] = {sp.sorted(_mm512_loadu_si512(p)), sp.sorted(_mm512_loadu_si512(p + L)),
+                              sp.sorted(_mm512_loadu_si512(p + 2 * L)),
+                              sp.sorted(_mm512_loadu_si512(p + 3 * L))};
+        for (int c = 0; c < 4; ++c) put<NT>(dd[c] + x, sp.plane(v, c));
+    }
+    if (x < w) part(x, w - x);
+    if constexpr (NT) simd::store_fence();
 }
 
 template <class U>
@@ -605,26 +732,34 @@ void merge4_ref(const U* const s[4], U* d, std::int64_t w) {
         for (int c = 0; c < 4; ++c) d[4 * x + c] = s[c][x];
 }
 
-template <class U>
+template <class U, bool NT = false>
 void merge4_vec(const U* const s[4], U* d, std::int64_t w) {
     constexpr int L = kL<U>;
     const Merge4<U> mg;
     const U* const ss[4] = {s[0], s[1], s[2], s[3]};
-    std::int64_t x = 0;
-    for (; x + L <= w; x += L) {
-        const __m512i p[4] = {_mm512_loadu_si512(ss[0] + x), _mm512_loadu_si512(ss[1] + x),
-                              _mm512_loadu_si512(ss[2] + x), _mm512_loadu_si512(ss[3] + x)};
-        U* q = d + 4 * x;
-        for (int r = 0; r < 4; ++r) store(q + r * L, mg.stream(p, r));
-    }
-    if (x < w) {
-        const std::int64_t rem = w - x, bytes = 4 * rem * kE<U>;
+    auto part = [&](std::int64_t x, std::int64_t rem) {
+        const std::int64_t bytes = 4 * rem * kE<U>;
         const auto k = head<U>(rem);
         const __m512i p[4] = {simd::load_masked<kE<U>>(ss[0] + x, k), simd::load_masked<kE<U>>(ss[1] + x, k),
                               simd::load_masked<kE<U>>(ss[2] + x, k), simd::load_masked<kE<U>>(ss[3] + x, k)};
         U* q = d + 4 * x;
         for (int r = 0; r < 4; ++r) _mm512_mask_storeu_epi8(q + r * L, head_bytes(bytes - 64 * r), mg.stream(p, r));
+    };
+    std::int64_t x = 0;
+    if constexpr (NT) {
+        const std::int64_t peel = interleaved_peel<U, 4>(d);
+        if (peel < 0) return merge4_vec<U, false>(s, d, w);
+        x = peel < w ? peel : w;
+        if (x > 0) part(0, x);
     }
+    for (; x + L <= w; x += L) {
+        const __m512i p[4] = {_mm512_loadu_si512(ss[0] + x), _mm512_loadu_si512(ss[1] + x),
+                              _mm512_loadu_si512(ss[2] + x), _mm512_loadu_si512(ss[3] + x)};
+        U* q = d + 4 * x;
+        for (int r = 0; r < 4; ++r) put<NT>(q + r * L, mg.stream(p, r));
+    }
+    if (x < w) part(x, w - x);
+    if constexpr (NT) simd::store_fence();
 }
 
 // ---- masked copies: C1MR, C3MR, C4MR, AC4MR ------------------------------------------

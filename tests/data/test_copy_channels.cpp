@@ -393,9 +393,12 @@ TYPED_TEST(Kernels, AC4AndPlanarKernels) {
         this->same_as_ref(w, 3, [&](K k, U* d) { k(s4.ptr(), d, w); }, K(ch::ac4c3_vec<U>), K(ch::ac4c3_ref<U>));
 
         // Planes: n one-row guarded images; the vector kernel writes them, the
-        // twin writes plain vectors.
-        auto planar = [&](auto n_tag) {
+        // twin writes plain vectors. Both store kinds: with streaming stores
+        // the kernel aligns the destinations by a first partial block, or
+        // falls back where no pixel count aligns them.
+        auto planar = [&](auto n_tag, auto nt_tag) {
             constexpr int N = decltype(n_tag)::value;
+            constexpr bool NT = decltype(nt_tag)::value;
             Guarded<U>& packed = N == 3 ? s3 : s4;
             std::vector<std::unique_ptr<Guarded<U>>> pv;
             std::vector<std::vector<U>> pr(N);
@@ -408,8 +411,8 @@ TYPED_TEST(Kernels, AC4AndPlanarKernels) {
                 vp[c] = pv.back()->ptr();
                 rp[c] = pr[c].data();
             }
-            if constexpr (N == 3) ch::split3_vec<U>(packed.ptr(), vp, w), ch::split3_ref<U>(packed.ptr(), rp, w);
-            else ch::split4_vec<U>(packed.ptr(), vp, w), ch::split4_ref<U>(packed.ptr(), rp, w);
+            if constexpr (N == 3) ch::split3_vec<U, NT>(packed.ptr(), vp, w), ch::split3_ref<U>(packed.ptr(), rp, w);
+            else ch::split4_vec<U, NT>(packed.ptr(), vp, w), ch::split4_ref<U>(packed.ptr(), rp, w);
             for (int c = 0; c < N; ++c) {
                 ASSERT_EQ(pv[c]->snapshot(), pr[c]) << "w=" << w;
                 ASSERT_TRUE(pv[c]->guards_ok());
@@ -418,12 +421,14 @@ TYPED_TEST(Kernels, AC4AndPlanarKernels) {
             const U* cp[N];
             for (int c = 0; c < N; ++c) cp[c] = pv[c]->ptr();
             using KM = void (*)(const U* const*, U*, std::int64_t);
-            KM mv = N == 3 ? KM(ch::merge3_vec<U>) : KM(ch::merge4_vec<U>);
+            KM mv = N == 3 ? KM(ch::merge3_vec<U, NT>) : KM(ch::merge4_vec<U, NT>);
             KM mr = N == 3 ? KM(ch::merge3_ref<U>) : KM(ch::merge4_ref<U>);
             this->same_as_ref(w, N, [&](KM k, U* d) { k(cp, d, w); }, mv, mr);
         };
-        planar(std::integral_constant<int, 3>{});
-        planar(std::integral_constant<int, 4>{});
+        planar(std::integral_constant<int, 3>{}, std::false_type{});
+        planar(std::integral_constant<int, 4>{}, std::false_type{});
+        planar(std::integral_constant<int, 3>{}, std::true_type{});
+        planar(std::integral_constant<int, 4>{}, std::true_type{});
     }
 }
 
