@@ -26,7 +26,6 @@ struct Buffer {
         mem.resize(static_cast<std::size_t>(step) * height + 64);
         std::uintptr_t a = reinterpret_cast<std::uintptr_t>(mem.data());
         data = mem.data() + ((64 - (a & 63)) & 63);
-        std::memset(data, 0, static_cast<std::size_t>(step) * height);
     }
     void randomize(unsigned seed = 1) {
         std::mt19937 rng(seed);

@@ -9,7 +9,10 @@ rows = OrderedDict()
 for b in data["benchmarks"]:
     if b.get("aggregate_name") != "median":
         continue
-    op, case, who = b["run_name"].rsplit("/", 2)
+    name = b["run_name"]
+    if name.endswith("/real_time"):
+        name = name[: -len("/real_time")]
+    op, case, who = name.rsplit("/", 2)
     rows.setdefault((op, case), {})[who] = b
 
 print(f"{'operation':<20} {'case':<11} {'gex us':>10} {'GB/s':>7}  {'peer':<8} {'peer us':>10} {'GB/s':>7} {'ratio':>6}  agree")
