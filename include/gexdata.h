@@ -202,7 +202,127 @@ GexStatus gexiSet_32f_AC4MR(const Gex32f value[3], Gex32f* pDst, int dstStep, Ge
 GexStatus gexiDup_8u_C1C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
 GexStatus gexiDup_8u_C1C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
 
-/* ---- Convert -------------------------------------------------------------- */
+/* ---- Convert --------------------------------------------------------------
+ * Widening is exact; narrowing saturates. Conversions to 32f and 64f give the
+ * nearest value. The plain R forms check steps (< 1 gives gexStsStep); the Rs
+ * and Sfs forms take any step. roundMode: 0 toward zero, 1 nearest with ties
+ * to even, any other value nearest with ties away from zero. From floating
+ * point, NaN gives the destination's minimum (0xFFFFFFFF for 32f32u). Sfs:
+ * the exact value times 2^-scaleFactor, rounded by roundMode, saturated. */
+
+/* widening and saturating, same scale */
+GexStatus gexiConvert_8u16u_C1R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16u_C3R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16u_C4R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16u_AC4R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16s_C1R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16s_C3R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16s_C4R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u16s_AC4R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32s_C1R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32s_C3R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32s_C4R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32s_AC4R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32f_C1R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32f_C3R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32f_C4R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8u32f_AC4R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32s_C1R(const Gex8s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32s_C3R(const Gex8s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32s_C4R(const Gex8s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32s_AC4R(const Gex8s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32f_C1R(const Gex8s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32f_C3R(const Gex8s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32f_C4R(const Gex8s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32f_AC4R(const Gex8s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32s_C1R(const Gex16u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32s_C3R(const Gex16u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32s_C4R(const Gex16u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32s_AC4R(const Gex16u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32f_C1R(const Gex16u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32f_C3R(const Gex16u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32f_C4R(const Gex16u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32f_AC4R(const Gex16u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32s_C1R(const Gex16s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32s_C3R(const Gex16s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32s_C4R(const Gex16s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32s_AC4R(const Gex16s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32f_C1R(const Gex16s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32f_C3R(const Gex16s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32f_C4R(const Gex16s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32f_AC4R(const Gex16s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u8u_C1R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u8u_C3R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u8u_C4R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u8u_AC4R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s8u_C1R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s8u_C3R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s8u_C4R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s8u_AC4R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8u_C1R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8u_C3R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8u_C4R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8u_AC4R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8s_C1R(const Gex32s* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8s_C3R(const Gex32s* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8s_C4R(const Gex32s* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s8s_AC4R(const Gex32s* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s16s_C1R(const Gex8s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16u32u_C1R(const Gex16u* pSrc, int srcStep, Gex32u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s32f_C1R(const Gex32s* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32u32f_C1R(const Gex32u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s64f_C1R(const Gex8s* pSrc, int srcStep, Gex64f* pDst, int dstStep, GexiSize roiSize);
+
+/* from 32f, rounded by roundMode */
+GexStatus gexiConvert_32f8u_C1R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8u_C3R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8u_C4R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8u_AC4R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8s_C1R(const Gex32f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8s_C3R(const Gex32f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8s_C4R(const Gex32f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f8s_AC4R(const Gex32f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16u_C1R(const Gex32f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16u_C3R(const Gex32f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16u_C4R(const Gex32f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16u_AC4R(const Gex32f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16s_C1R(const Gex32f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16s_C3R(const Gex32f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16s_C4R(const Gex32f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+GexStatus gexiConvert_32f16s_AC4R(const Gex32f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode);
+
+/* saturating to unsigned: negative values give 0 */
+GexStatus gexiConvert_8s8u_C1Rs(const Gex8s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s16u_C1Rs(const Gex8s* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_8s32u_C1Rs(const Gex8s* pSrc, int srcStep, Gex32u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s16u_C1Rs(const Gex16s* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_16s32u_C1Rs(const Gex16s* pSrc, int srcStep, Gex32u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiConvert_32s32u_C1Rs(const Gex32s* pSrc, int srcStep, Gex32u* pDst, int dstStep, GexiSize roiSize);
+
+/* scaled */
+GexStatus gexiConvert_8u8s_C1RSfs(const Gex8u* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_16s8s_C1RSfs(const Gex16s* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_16u8s_C1RSfs(const Gex16u* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_16u16s_C1RSfs(const Gex16u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f8u_C1RSfs(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f8s_C1RSfs(const Gex32f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f16u_C1RSfs(const Gex32f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f16s_C1RSfs(const Gex32f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f32s_C1RSfs(const Gex32f* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32f32u_C1RSfs(const Gex32f* pSrc, int srcStep, Gex32u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32s16s_C1RSfs(const Gex32s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32s16u_C1RSfs(const Gex32s* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32u8u_C1RSfs(const Gex32u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32u8s_C1RSfs(const Gex32u* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32u16u_C1RSfs(const Gex32u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32u16s_C1RSfs(const Gex32u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_32u32s_C1RSfs(const Gex32u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_64f8u_C1RSfs(const Gex64f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_64f8s_C1RSfs(const Gex64f* pSrc, int srcStep, Gex8s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_64f16u_C1RSfs(const Gex64f* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+GexStatus gexiConvert_64f16s_C1RSfs(const Gex64f* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
+/* in place: the image holds 32f values on entry and their 32u results on return */
+GexStatus gexiConvert_32f32u_C1IRSfs(Gex32u* pSrcDst, int srcDstStep, GexiSize roiSize, GexRoundMode roundMode, int scaleFactor);
 
 /* (end of Convert) */
 
