@@ -42,23 +42,27 @@ constexpr T saturate(U v) {
     }
 }
 
-// Round a double to an integer by GexRoundMode: 0 toward zero, 1 nearest with
-// ties to even, any other value nearest with ties away from zero.
+// Round a double to an integer value by GexRoundMode: 0 toward zero, 1 nearest
+// with ties to even, any other value nearest with ties away from zero. The
+// result never depends on the processor's rounding control.
 inline double round_by_mode(double v, int mode) {
-    switch (mode) {
-        case gexRndZero: return std::trunc(v);
-        case gexRndNear: return std::nearbyint(v);  // callers keep the default rounding
-        default: return std::round(v);
-    }
+    if (mode == gexRndZero) return std::trunc(v);
+    if (mode != gexRndNear) return std::round(v);
+    const double f = std::floor(v);
+    const double d = v - f;  // exact for every finite double
+    if (d > 0.5) return f + 1.0;
+    if (d < 0.5) return f;
+    return std::fmod(f, 2.0) == 0.0 ? f : f + 1.0;
 }
 
-// Round and saturate a floating value into the integer type T. NaN goes to 0.
+// Round and saturate a floating value into the integer type T. NaN gives the
+// type's minimum (0 for unsigned types), infinities the ends of the range.
 template <class T>
 inline T saturate_round(double v, int mode) {
     if constexpr (std::is_floating_point_v<T>) {
         return static_cast<T>(v);
     } else {
-        if (std::isnan(v)) return 0;
+        if (std::isnan(v)) return std::numeric_limits<T>::lowest();
         double r = round_by_mode(v, mode);
         if (r <= static_cast<double>(std::numeric_limits<T>::lowest())) return std::numeric_limits<T>::lowest();
         if (r >= static_cast<double>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();

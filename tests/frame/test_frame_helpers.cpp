@@ -92,6 +92,16 @@ TEST(Pixel, SaturationAndRounding) {
     EXPECT_EQ(gex::saturate_round<Gex8u>(300.0, gexRndNear), 255);
     EXPECT_EQ(gex::saturate_round<Gex8u>(-1.0, gexRndNear), 0);
     EXPECT_EQ(gex::saturate_round<Gex8u>(std::nan(""), gexRndNear), 0);
+    EXPECT_EQ(gex::saturate_round<Gex16s>(std::nan(""), gexRndNear), -32768);
+    EXPECT_EQ(gex::saturate_round<Gex32s>(-HUGE_VAL, gexRndZero), INT32_MIN);
+    // Ties to even whatever the caller's rounding control says.
+    gex::FpControlGuard up(gex::FpRound::Up);
+    EXPECT_EQ(gex::round_by_mode(0.5, gexRndNear), 0.0);
+    EXPECT_EQ(gex::round_by_mode(-0.5, gexRndNear), 0.0);
+    EXPECT_EQ(gex::round_by_mode(-1.5, gexRndNear), -2.0);
+    EXPECT_EQ(gex::round_by_mode(2.4999999999999996, gexRndNear), 2.0);
+    EXPECT_EQ(gex::round_by_mode(4503599627370497.0, gexRndNear), 4503599627370497.0);
+    EXPECT_EQ(gex::round_by_mode(-2.5, gexRndFin), -3.0);
 }
 
 TEST(Simd, TailMasksCoverExactlyTheRow) {
