@@ -328,6 +328,123 @@ GexStatus gexiConvert_32f32u_C1IRSfs(Gex32u* pSrcDst, int srcDstStep, GexiSize r
 
 /* ---- Scale, ScaleC, BinToGray, GrayToBin ------------------------------------ */
 
+/* Scale: the full range of the source type mapped linearly onto the full range
+ * of the destination type. Checks: null, size, steps < 1 (-14); the forms with
+ * vMin, vMax first test vMax - vMin <= 0 (gexStsScaleRange, -13), even before
+ * the null check. In the narrowing forms hint 2 selects the accurate kernel
+ * and any other value the fast one. AC4: the fourth channel is neither read
+ * from the source nor written to the destination. */
+GexStatus gexiScale_8u16u_C1R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16u_C3R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16u_C4R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16u_AC4R(const Gex8u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16s_C1R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16s_C3R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16s_C4R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u16s_AC4R(const Gex8u* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u32s_C1R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u32s_C3R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u32s_C4R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u32s_AC4R(const Gex8u* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiScale_8u32f_C1R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_8u32f_C3R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_8u32f_C4R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_8u32f_AC4R(const Gex8u* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_16u8u_C1R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16u8u_C3R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16u8u_C4R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16u8u_AC4R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16s8u_C1R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16s8u_C3R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16s8u_C4R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_16s8u_AC4R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_32s8u_C1R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_32s8u_C3R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_32s8u_C4R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_32s8u_AC4R(const Gex32s* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScale_32f8u_C1R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_32f8u_C3R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_32f8u_C4R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+GexStatus gexiScale_32f8u_AC4R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, Gex32f vMin, Gex32f vMax);
+
+/* ScaleC: dst = saturate(round(src * mVal + aVal)), rounding to nearest with
+ * ties to even for integer destinations. mVal 1 and aVal 0 (within
+ * 2.220446049250313e-16) is a plain conversion. Checks: null, size, steps < 1
+ * (-14). Hint 2 computes in binary64; other hints in binary32 with a fused
+ * multiply-add (binary64 for 64f sources). The in-place forms run the
+ * not-in-place form with the image as source and destination. */
+GexStatus gexiScaleC_8u8s_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u16u_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u16s_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u32s_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u32f_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u64f_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u_C1R(const Gex8u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8u_C1IR(Gex8u* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s8u_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s16u_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s16s_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s32s_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s32f_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s64f_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s_C1R(const Gex8s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_8s_C1IR(Gex8s* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u8u_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u8s_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u16s_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u32s_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u32f_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u64f_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u_C1R(const Gex16u* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16u_C1IR(Gex16u* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s8u_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s8s_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s16u_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s32s_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s32f_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s64f_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s_C1R(const Gex16s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_16s_C1IR(Gex16s* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s8u_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s8s_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s16u_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s16s_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s32f_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s64f_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s_C1R(const Gex32s* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32s_C1IR(Gex32s* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f8u_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f8s_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f16u_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f16s_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f32s_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f64f_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f_C1R(const Gex32f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f8u_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f8s_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex8s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f16u_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16u* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f16s_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex16s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f32s_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32s* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f32f_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex32f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f_C1R(const Gex64f* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, Gex64f* pDst, int dstStep, GexiSize roiSize, GexHintAlgorithm hint);
+GexStatus gexiScaleC_64f_C1IR(Gex64f* pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint);
+
+/* BinToGray: bit-packed pixels (least significant bit first; pixel x of row y
+ * is bit srcBitOffset + x of the row at pSrc + y * srcStep) to gray: a 0 bit
+ * gives loVal, a 1 bit hiVal. GrayToBin: a bit is 1 when threshold < pixel;
+ * the bits of the first and last byte outside the ROI keep their values.
+ * Checks: null, size, steps < 1 (-14), then a negative bit offset gives
+ * gexStsSize (-6). Offsets of 8 and more start in later bytes. */
+GexStatus gexiBinToGray_1u8u_C1R(const Gex8u* pSrc, int srcStep, int srcBitOffset, Gex8u* pDst, int dstStep, GexiSize roiSize, Gex8u loVal, Gex8u hiVal);
+GexStatus gexiBinToGray_1u16u_C1R(const Gex8u* pSrc, int srcStep, int srcBitOffset, Gex16u* pDst, int dstStep, GexiSize roiSize, Gex16u loVal, Gex16u hiVal);
+GexStatus gexiBinToGray_1u16s_C1R(const Gex8u* pSrc, int srcStep, int srcBitOffset, Gex16s* pDst, int dstStep, GexiSize roiSize, Gex16s loVal, Gex16s hiVal);
+GexStatus gexiBinToGray_1u32f_C1R(const Gex8u* pSrc, int srcStep, int srcBitOffset, Gex32f* pDst, int dstStep, GexiSize roiSize, Gex32f loVal, Gex32f hiVal);
+GexStatus gexiGrayToBin_8u1u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, int dstBitOffset, GexiSize roiSize, Gex8u threshold);
+GexStatus gexiGrayToBin_16u1u_C1R(const Gex16u* pSrc, int srcStep, Gex8u* pDst, int dstStep, int dstBitOffset, GexiSize roiSize, Gex16u threshold);
+GexStatus gexiGrayToBin_16s1u_C1R(const Gex16s* pSrc, int srcStep, Gex8u* pDst, int dstStep, int dstBitOffset, GexiSize roiSize, Gex16s threshold);
+GexStatus gexiGrayToBin_32f1u_C1R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, int dstStep, int dstBitOffset, GexiSize roiSize, Gex32f threshold);
+
 /* (end of Scale) */
 
 /* ---- SwapChannels, Transpose, Mirror ---------------------------------------- */
