@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "data/convert.hpp"
 #include "frame/checks.hpp"
 #include "frame/export.hpp"
 #include "frame/fpguard.hpp"
@@ -46,13 +47,11 @@ constexpr std::int64_t kMergeBelow = 0x7fffffff;
 // What mVal 1, aVal 0 stands for, by pair:
 //   Copy  same depth: the Copy of that depth (8s as 8u bytes, 64f as 16u C4
 //         pixels of the same eight bytes); null and size checked, any step;
-//   R     the Convert C1R form of the pair: null, size, steps;
-//   Sfs   the Convert C1RSfs form with gexRndNear and factor 0: null, size;
-//   Rs    the Convert C1Rs form: null, size;
-//   Own   no Convert of the pair exists: null, size, steps, as ScaleC itself.
-// The conversions themselves run on the exact kernel: the value rounded to
-// nearest (ties to even) and saturated, NaN to the minimum, which is what
-// those Convert forms give with gexRndNear.
+//   the Convert of the pair otherwise, with its own checks and status (see the
+//   GEX_SCALEC_* macros below);
+//   Own   no Convert of the pair exists: null, size, steps, as ScaleC itself,
+//         on the exact kernel: rounded to nearest (ties to even), saturated,
+//         NaN to the minimum, as Convert does with gexRndNear.
 enum class Identity { Copy, R, Sfs, Rs, Own };
 
 template <class S, class D, class K>
@@ -98,11 +97,11 @@ GexStatus identity(const S* pSrc, int srcStep, D* pDst, int dstStep, GexiSize ro
     }
 }
 
-template <Identity Kind, class S, class D>
+// `same` runs the plain conversion that mVal 1, aVal 0 stands for.
+template <class S, class D, class Same>
 GexStatus scalec(const S* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, D* pDst, int dstStep, GexiSize roi,
-                 GexHintAlgorithm hint) {
-    if (std::fabs(mVal - 1.0) < kIdentityEps && std::fabs(aVal) < kIdentityEps)
-        return identity<Kind>(pSrc, srcStep, pDst, dstStep, roi);
+                 GexHintAlgorithm hint, Same same) {
+    if (std::fabs(mVal - 1.0) < kIdentityEps && std::fabs(aVal) < kIdentityEps) return same();
     GEX_CHECK(check_null(pSrc, pDst));
     GEX_CHECK(check_roi(roi));
     GEX_CHECK(check_steps(srcStep, dstStep));
@@ -116,19 +115,35 @@ GexStatus scalec(const S* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, D* pDst, 
 
 }  // namespace gex
 
-#define GEX_SCALEC(SW, DW, S, D, Kind)                                                                        \
+#define GEX_SCALEC_WITH(SW, DW, S, D, SAME_CALL)                                                              \
     GEX_EXPORT(GexStatus, gexiScaleC_##SW##DW##_C1R,                                                           \
                (const S* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, D* pDst, int dstStep, GexiSize roiSize, \
                 GexHintAlgorithm hint)) {                                                                      \
-        return scalec<Identity::Kind>(pSrc, srcStep, mVal, aVal, pDst, dstStep, roiSize, hint);              \
+        return scalec(pSrc, srcStep, mVal, aVal, pDst, dstStep, roiSize, hint, [&] { return SAME_CALL; });     \
     }
+
+// The identity of a pair is the Convert of the same depths (R: no mode, or
+// the round mode gexRndNear for float sources; Sfs: gexRndNear and factor 0;
+// Rs: the saturating form); Own: no Convert exists for the pair.
+#define GEX_SCALEC_R(SW, DW, S, D) \
+    GEX_SCALEC_WITH(SW, DW, S, D, gex::gexiConvert_##SW##DW##_C1R(pSrc, srcStep, pDst, dstStep, roiSize))
+#define GEX_SCALEC_RMODE(SW, DW, S, D) \
+    GEX_SCALEC_WITH(SW, DW, S, D, gex::gexiConvert_##SW##DW##_C1R(pSrc, srcStep, pDst, dstStep, roiSize, gexRndNear))
+#define GEX_SCALEC_SFS(SW, DW, S, D)                                                                      \
+    GEX_SCALEC_WITH(SW, DW, S, D,                                                                        \
+                    gex::gexiConvert_##SW##DW##_C1RSfs(pSrc, srcStep, pDst, dstStep, roiSize, gexRndNear, 0))
+#define GEX_SCALEC_RS(SW, DW, S, D) \
+    GEX_SCALEC_WITH(SW, DW, S, D, gex::gexiConvert_##SW##DW##_C1Rs(pSrc, srcStep, pDst, dstStep, roiSize))
+#define GEX_SCALEC_OWN(SW, DW, S, D) \
+    GEX_SCALEC_WITH(SW, DW, S, D, identity<Identity::Own>(pSrc, srcStep, pDst, dstStep, roiSize))
 
 // Same depth, and in place: the image is source and destination.
 #define GEX_SCALEC_SAME(W, T)                                                                                  \
     GEX_EXPORT(GexStatus, gexiScaleC_##W##_C1R,                                                                \
                (const T* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, T* pDst, int dstStep, GexiSize roiSize, \
                 GexHintAlgorithm hint)) {                                                                      \
-        return scalec<Identity::Copy>(pSrc, srcStep, mVal, aVal, pDst, dstStep, roiSize, hint);              \
+        return scalec(pSrc, srcStep, mVal, aVal, pDst, dstStep, roiSize, hint,                                \
+                      [&] { return identity<Identity::Copy>(pSrc, srcStep, pDst, dstStep, roiSize); });        \
     }                                                                                                          \
     GEX_EXPORT(GexStatus, gexiScaleC_##W##_C1IR,                                                               \
                (T * pSrcDst, int srcDstStep, Gex64f mVal, Gex64f aVal, GexiSize roiSize, GexHintAlgorithm hint)) { \
@@ -136,48 +151,48 @@ GexStatus scalec(const S* pSrc, int srcStep, Gex64f mVal, Gex64f aVal, D* pDst, 
     }
 
 // The pair, and the conversion its identity stands for.
-GEX_SCALEC(8u, 8s, Gex8u, Gex8s, Sfs)        // gexiConvert_8u8s_C1RSfs
-GEX_SCALEC(8u, 16u, Gex8u, Gex16u, R)        // gexiConvert_8u16u_C1R
-GEX_SCALEC(8u, 16s, Gex8u, Gex16s, R)        // gexiConvert_8u16s_C1R
-GEX_SCALEC(8u, 32s, Gex8u, Gex32s, R)        // gexiConvert_8u32s_C1R
-GEX_SCALEC(8u, 32f, Gex8u, Gex32f, R)        // gexiConvert_8u32f_C1R
-GEX_SCALEC(8u, 64f, Gex8u, Gex64f, Own)
-GEX_SCALEC(8s, 8u, Gex8s, Gex8u, Rs)         // gexiConvert_8s8u_C1Rs
-GEX_SCALEC(8s, 16u, Gex8s, Gex16u, Rs)       // gexiConvert_8s16u_C1Rs
-GEX_SCALEC(8s, 16s, Gex8s, Gex16s, R)        // gexiConvert_8s16s_C1R
-GEX_SCALEC(8s, 32s, Gex8s, Gex32s, R)        // gexiConvert_8s32s_C1R
-GEX_SCALEC(8s, 32f, Gex8s, Gex32f, R)        // gexiConvert_8s32f_C1R
-GEX_SCALEC(8s, 64f, Gex8s, Gex64f, R)        // gexiConvert_8s64f_C1R
-GEX_SCALEC(16u, 8u, Gex16u, Gex8u, R)        // gexiConvert_16u8u_C1R
-GEX_SCALEC(16u, 8s, Gex16u, Gex8s, Sfs)      // gexiConvert_16u8s_C1RSfs
-GEX_SCALEC(16u, 16s, Gex16u, Gex16s, Sfs)    // gexiConvert_16u16s_C1RSfs
-GEX_SCALEC(16u, 32s, Gex16u, Gex32s, R)      // gexiConvert_16u32s_C1R
-GEX_SCALEC(16u, 32f, Gex16u, Gex32f, R)      // gexiConvert_16u32f_C1R
-GEX_SCALEC(16u, 64f, Gex16u, Gex64f, Own)
-GEX_SCALEC(16s, 8u, Gex16s, Gex8u, R)        // gexiConvert_16s8u_C1R
-GEX_SCALEC(16s, 8s, Gex16s, Gex8s, Sfs)      // gexiConvert_16s8s_C1RSfs
-GEX_SCALEC(16s, 16u, Gex16s, Gex16u, Rs)     // gexiConvert_16s16u_C1Rs
-GEX_SCALEC(16s, 32s, Gex16s, Gex32s, R)      // gexiConvert_16s32s_C1R
-GEX_SCALEC(16s, 32f, Gex16s, Gex32f, R)      // gexiConvert_16s32f_C1R
-GEX_SCALEC(16s, 64f, Gex16s, Gex64f, Own)
-GEX_SCALEC(32s, 8u, Gex32s, Gex8u, R)        // gexiConvert_32s8u_C1R
-GEX_SCALEC(32s, 8s, Gex32s, Gex8s, R)        // gexiConvert_32s8s_C1R
-GEX_SCALEC(32s, 16u, Gex32s, Gex16u, Sfs)    // gexiConvert_32s16u_C1RSfs
-GEX_SCALEC(32s, 16s, Gex32s, Gex16s, Sfs)    // gexiConvert_32s16s_C1RSfs
-GEX_SCALEC(32s, 32f, Gex32s, Gex32f, R)      // gexiConvert_32s32f_C1R
-GEX_SCALEC(32s, 64f, Gex32s, Gex64f, Own)
-GEX_SCALEC(32f, 8u, Gex32f, Gex8u, R)        // gexiConvert_32f8u_C1R, gexRndNear
-GEX_SCALEC(32f, 8s, Gex32f, Gex8s, R)        // gexiConvert_32f8s_C1R, gexRndNear
-GEX_SCALEC(32f, 16u, Gex32f, Gex16u, R)      // gexiConvert_32f16u_C1R, gexRndNear
-GEX_SCALEC(32f, 16s, Gex32f, Gex16s, R)      // gexiConvert_32f16s_C1R, gexRndNear
-GEX_SCALEC(32f, 32s, Gex32f, Gex32s, Sfs)    // gexiConvert_32f32s_C1RSfs
-GEX_SCALEC(32f, 64f, Gex32f, Gex64f, Own)
-GEX_SCALEC(64f, 8u, Gex64f, Gex8u, Sfs)      // gexiConvert_64f8u_C1RSfs
-GEX_SCALEC(64f, 8s, Gex64f, Gex8s, Sfs)      // gexiConvert_64f8s_C1RSfs
-GEX_SCALEC(64f, 16u, Gex64f, Gex16u, Sfs)    // gexiConvert_64f16u_C1RSfs
-GEX_SCALEC(64f, 16s, Gex64f, Gex16s, Sfs)    // gexiConvert_64f16s_C1RSfs
-GEX_SCALEC(64f, 32s, Gex64f, Gex32s, Own)
-GEX_SCALEC(64f, 32f, Gex64f, Gex32f, Own)
+GEX_SCALEC_SFS(8u, 8s, Gex8u, Gex8s)
+GEX_SCALEC_R(8u, 16u, Gex8u, Gex16u)
+GEX_SCALEC_R(8u, 16s, Gex8u, Gex16s)
+GEX_SCALEC_R(8u, 32s, Gex8u, Gex32s)
+GEX_SCALEC_R(8u, 32f, Gex8u, Gex32f)
+GEX_SCALEC_OWN(8u, 64f, Gex8u, Gex64f)
+GEX_SCALEC_RS(8s, 8u, Gex8s, Gex8u)
+GEX_SCALEC_RS(8s, 16u, Gex8s, Gex16u)
+GEX_SCALEC_R(8s, 16s, Gex8s, Gex16s)
+GEX_SCALEC_R(8s, 32s, Gex8s, Gex32s)
+GEX_SCALEC_R(8s, 32f, Gex8s, Gex32f)
+GEX_SCALEC_R(8s, 64f, Gex8s, Gex64f)
+GEX_SCALEC_R(16u, 8u, Gex16u, Gex8u)
+GEX_SCALEC_SFS(16u, 8s, Gex16u, Gex8s)
+GEX_SCALEC_SFS(16u, 16s, Gex16u, Gex16s)
+GEX_SCALEC_R(16u, 32s, Gex16u, Gex32s)
+GEX_SCALEC_R(16u, 32f, Gex16u, Gex32f)
+GEX_SCALEC_OWN(16u, 64f, Gex16u, Gex64f)
+GEX_SCALEC_R(16s, 8u, Gex16s, Gex8u)
+GEX_SCALEC_SFS(16s, 8s, Gex16s, Gex8s)
+GEX_SCALEC_RS(16s, 16u, Gex16s, Gex16u)
+GEX_SCALEC_R(16s, 32s, Gex16s, Gex32s)
+GEX_SCALEC_R(16s, 32f, Gex16s, Gex32f)
+GEX_SCALEC_OWN(16s, 64f, Gex16s, Gex64f)
+GEX_SCALEC_R(32s, 8u, Gex32s, Gex8u)
+GEX_SCALEC_R(32s, 8s, Gex32s, Gex8s)
+GEX_SCALEC_SFS(32s, 16u, Gex32s, Gex16u)
+GEX_SCALEC_SFS(32s, 16s, Gex32s, Gex16s)
+GEX_SCALEC_R(32s, 32f, Gex32s, Gex32f)
+GEX_SCALEC_OWN(32s, 64f, Gex32s, Gex64f)
+GEX_SCALEC_RMODE(32f, 8u, Gex32f, Gex8u)
+GEX_SCALEC_RMODE(32f, 8s, Gex32f, Gex8s)
+GEX_SCALEC_RMODE(32f, 16u, Gex32f, Gex16u)
+GEX_SCALEC_RMODE(32f, 16s, Gex32f, Gex16s)
+GEX_SCALEC_SFS(32f, 32s, Gex32f, Gex32s)
+GEX_SCALEC_OWN(32f, 64f, Gex32f, Gex64f)
+GEX_SCALEC_SFS(64f, 8u, Gex64f, Gex8u)
+GEX_SCALEC_SFS(64f, 8s, Gex64f, Gex8s)
+GEX_SCALEC_SFS(64f, 16u, Gex64f, Gex16u)
+GEX_SCALEC_SFS(64f, 16s, Gex64f, Gex16s)
+GEX_SCALEC_OWN(64f, 32s, Gex64f, Gex32s)
+GEX_SCALEC_OWN(64f, 32f, Gex64f, Gex32f)
 
 GEX_SCALEC_SAME(8u, Gex8u)
 GEX_SCALEC_SAME(8s, Gex8s)
