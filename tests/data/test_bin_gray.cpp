@@ -19,6 +19,8 @@
 using gextest::Guarded;
 using gextest::Layout;
 
+using gextest::same_bits;
+
 namespace {
 
 template <class T>
@@ -26,11 +28,6 @@ bool same_value(T a, T b) {
     if constexpr (std::is_floating_point_v<T>)
         if (std::isnan(a) && std::isnan(b)) return true;
     return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
-template <class T>
-bool same_bits(const std::vector<T>& a, const std::vector<T>& b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
 int bit_of(const Gex8u* row, std::int64_t pos) { return (row[pos / 8] >> (pos % 8)) & 1; }

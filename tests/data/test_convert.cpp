@@ -31,6 +31,8 @@
 using gextest::Guarded;
 using gextest::Layout;
 
+using gextest::same_bits;
+
 namespace {
 
 const int kWidths[] = {1, 2, 3, 5, 7, 15, 31, 33, 63, 64, 65, 127, 129, 200};
@@ -146,9 +148,6 @@ S source_value(std::mt19937_64& rng, int sf) {
         }
     }
 }
-
-template <class T>
-bool same_bits(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
 
 // ---- one export on one pair of layouts --------------------------------------------------
 

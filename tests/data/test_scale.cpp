@@ -21,6 +21,8 @@
 using gextest::Guarded;
 using gextest::Layout;
 
+using gextest::same_bits;
+
 namespace {
 
 const int kWidths[] = {1, 2, 3, 5, 7, 15, 31, 33, 63, 64, 65, 127, 129, 200};
@@ -32,16 +34,6 @@ std::vector<Layout> layouts() {
     v.push_back(Layout{0, 0, 1, false, false});
     v.push_back(Layout{0, 0, 0, false, true});
     return v;
-}
-
-template <class T>
-bool same_bits(T a, T b) {
-    return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
-template <class T>
-bool same_bits(const std::vector<T>& a, const std::vector<T>& b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
 // ---- independent models -----------------------------------------------------------

@@ -25,6 +25,8 @@
 using gextest::Guarded;
 using gextest::Layout;
 
+using gextest::same_bits;
+
 namespace {
 
 template <class T>
@@ -36,11 +38,6 @@ bool same_value(T a, T b) {
     if constexpr (kFloat<T>)
         if (std::isnan(a) && std::isnan(b)) return true;
     return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
-template <class T>
-bool same_bits(const std::vector<T>& a, const std::vector<T>& b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
 template <class T>

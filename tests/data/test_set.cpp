@@ -19,6 +19,8 @@
 using gextest::Guarded;
 using gextest::Layout;
 
+using gextest::same_bits;
+
 namespace {
 
 const int kWidths[] = {1, 2, 3, 5, 7, 15, 31, 33, 63, 64, 65, 127, 129, 200};
@@ -29,11 +31,6 @@ std::vector<Layout> all_layouts() {
     v.push_back(Layout{0, 0, 1, false, false});
     v.push_back(Layout{0, 0, 0, false, true});
     return v;
-}
-
-template <class T>
-bool same_bits(T a, T b) {
-    return std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 
 // The model: element (x, y, c) takes vals[c] where channel c is written and

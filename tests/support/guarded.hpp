@@ -150,6 +150,17 @@ private:
     std::uint8_t* block_ = nullptr;
 };
 
+// Bitwise equality: NaN payloads and the sign of zero count.
+template <class T>
+bool same_bits(T a, T b) {
+    return std::memcmp(&a, &b, sizeof(T)) == 0;
+}
+
+template <class T>
+bool same_bits(const std::vector<T>& a, const std::vector<T>& b) {
+    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0);
+}
+
 // The layouts every family is run through: plain padding, odd padding,
 // a negative step, and the block whose last byte touches an inaccessible page.
 inline std::vector<Layout> standard_layouts(bool allow_negative = true) {
