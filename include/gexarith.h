@@ -8,7 +8,21 @@
 extern "C" {
 #endif
 
-/* Declarations are added here as the families land. */
+/* ---- Add, Sub, Mul and their constant forms ------------------------------ */
+
+/* (end of Add, Sub, Mul) */
+
+/* ---- Div, DivC, Div_Round, MulScale, MulCScale, MulC64f ------------------- */
+
+/* (end of Div and scaled products) */
+
+/* ---- Element functions and logic ------------------------------------------ */
+
+/* (end of element functions and logic) */
+
+/* ---- Compare, threshold, alpha composition, generators -------------------- */
+
+/* (end of compare and the rest) */
 
 #ifdef __cplusplus
 }
