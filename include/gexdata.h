@@ -449,6 +449,126 @@ GexStatus gexiGrayToBin_32f1u_C1R(const Gex32f* pSrc, int srcStep, Gex8u* pDst, 
 
 /* ---- SwapChannels, Transpose, Mirror ---------------------------------------- */
 
+/* SwapChannels: dst channel c = src channel dstOrder[c].
+ * C3, C4: entries 0..2 / 0..3. AC4: three entries 0..2; the destination's
+ * fourth channel stays and the source's is not read. C4C3: three entries 0..3.
+ * C3C4: four entries; 0..2 a source channel, 3 the constant val, above 3 the
+ * destination channel keeps its value. Any other entry (negative ones
+ * included) gives gexStsChannelOrder. A step of 0 gives gexStsStep; negative
+ * steps are accepted. C3 and C4 with pSrc = pDst permute in place (on srcStep). */
+GexStatus gexiSwapChannels_8u_C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_8u_C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4]);
+GexStatus gexiSwapChannels_8u_AC4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_8u_C3C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4], Gex8u val);
+GexStatus gexiSwapChannels_8u_C4C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16u_C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16u_C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4]);
+GexStatus gexiSwapChannels_16u_AC4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16u_C3C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4], Gex16u val);
+GexStatus gexiSwapChannels_16u_C4C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16s_C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16s_C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4]);
+GexStatus gexiSwapChannels_16s_AC4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_16s_C3C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4], Gex16s val);
+GexStatus gexiSwapChannels_16s_C4C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32s_C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32s_C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4]);
+GexStatus gexiSwapChannels_32s_AC4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32s_C3C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4], Gex32s val);
+GexStatus gexiSwapChannels_32s_C4C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4]);
+GexStatus gexiSwapChannels_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_32f_C3C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const int dstOrder[4], Gex32f val);
+GexStatus gexiSwapChannels_32f_C4C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_8u_C3IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, const int dstOrder[3]);
+GexStatus gexiSwapChannels_8u_C4IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, const int dstOrder[4]);
+
+/* Transpose: dst(x = y', y = x') = src(x', y'). roiSize is the source's size;
+ * the destination is roiSize.height wide and roiSize.width high. No step is
+ * checked. The in-place forms need a square ROI (else gexStsSize); pSrc = pDst
+ * runs the in-place form on srcStep. */
+GexStatus gexiTranspose_8u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_8u_C1IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_8u_C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_8u_C3IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_8u_C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_8u_C4IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C1IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C3IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16u_C4IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C1IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C3IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_16s_C4IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C1R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C1IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C3IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32s_C4IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiTranspose_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize);
+
+/* Mirror: flip 0 exchanges top and bottom, 1 left and right, 2 both; 3 (main
+ * diagonal) and 4 (other diagonal) only in gexiMirror_{8u,16u,32s}_C1R, whose
+ * destination is then roiSize.height wide and roiSize.width high, and ROIs
+ * that overlap give gexStsNotSupportedMode. Another value gives
+ * gexStsMirrorFlip. Only gexiMirror_{8u,16u,32s}_C1R test steps (< 1 gives
+ * gexStsStep); the other forms take any step. pSrc = pDst (flips 0 to 2)
+ * runs the in-place form on srcStep. AC4 keeps the destination's fourth
+ * channel. */
+GexStatus gexiMirror_8u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_C1IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_C3IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_C4IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_AC4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_8u_AC4IR(Gex8u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C1IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C3IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_C4IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_AC4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16u_AC4IR(Gex16u* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C1IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C3IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_C4IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_AC4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_16s_AC4IR(Gex16s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C1R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C1IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C3R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C3IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_C4IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_AC4R(const Gex32s* pSrc, int srcStep, Gex32s* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32s_AC4IR(Gex32s* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize roiSize, GexiAxis flip);
+GexStatus gexiMirror_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, GexiSize roiSize, GexiAxis flip);
+
+
 /* (end of channel and layout moves) */
 
 #ifdef __cplusplus
