@@ -80,8 +80,9 @@ struct Row {
 };
 std::vector<Row> g_rows;
 
-// Runs an operation a few times; the median time goes into the table.
-void run(const std::string& name, Image& out, const std::function<GexStatus()>& fn) {
+// Runs an operation a few times; the median time goes into the table with a
+// checksum of the output.
+void run_with(const std::string& name, const std::function<std::uint32_t()>& sum, const std::function<GexStatus()>& fn) {
     std::vector<double> t;
     GexStatus st = gexStsOk;
     for (int i = 0; i < 7; ++i) {
@@ -91,7 +92,11 @@ void run(const std::string& name, Image& out, const std::function<GexStatus()>& 
         t.push_back(std::chrono::duration<double, std::micro>(t1 - t0).count());
     }
     std::sort(t.begin(), t.end());
-    g_rows.push_back({name, t[t.size() / 2], checksum(out), st});
+    g_rows.push_back({name, t[t.size() / 2], sum(), st});
+}
+
+void run(const std::string& name, Image& out, const std::function<GexStatus()>& fn) {
+    run_with(name, [&] { return checksum(out); }, fn);
 }
 
 }  // namespace
@@ -175,6 +180,40 @@ int main(int argc, char** argv) {
     Image gray(w, h, 3);
     run("Dup_8u_C1C3R", gray, [&] { return gexiDup_8u_C1C3R(planes[1].data, planes[1].step, gray.data, gray.step, gray.size()); });
     demo::write_png(outdir + "/gray.png", gray.data, w, h, 3, gray.step);
+
+    // Depth conversion: the green plane to 32f, then a contrast stretch of
+    // [64, 192] onto the full 8-bit range on the way back.
+    std::vector<Gex32f> green32(static_cast<std::size_t>(w) * h);
+    const int step32 = w * static_cast<int>(sizeof(Gex32f));
+    auto sum32 = [&] {
+        return demo::crc32(reinterpret_cast<const unsigned char*>(green32.data()), green32.size() * sizeof(Gex32f)) ^
+               0xffffffffu;
+    };
+    run_with("Convert_8u32f_C1R", sum32, [&] {
+        return gexiConvert_8u32f_C1R(planes[1].data, planes[1].step, green32.data(), step32, src.size());
+    });
+    Image stretched(w, h, 1);
+    run("Scale_32f8u_C1R (stretch 64..192)", stretched, [&] {
+        return gexiScale_32f8u_C1R(green32.data(), step32, stretched.data, stretched.step, src.size(), 64.0f, 192.0f);
+    });
+    demo::write_png(outdir + "/green_stretched.png", stretched.data, w, h, 1, stretched.step);
+
+    // Channel order, mirror and transpose.
+    Image rgb_to_bgr(w, h, 3);
+    const int order[3] = {2, 1, 0};
+    run("SwapChannels_8u_C3R {2,1,0}", rgb_to_bgr, [&] {
+        return gexiSwapChannels_8u_C3R(src.data, src.step, rgb_to_bgr.data, rgb_to_bgr.step, src.size(), order);
+    });
+    Image mirrored(w, h, 3);
+    run("Mirror_8u_C3R (vertical axis)", mirrored, [&] {
+        return gexiMirror_8u_C3R(src.data, src.step, mirrored.data, mirrored.step, src.size(), gexAxsVertical);
+    });
+    demo::write_png(outdir + "/mirrored.png", mirrored.data, w, h, 3, mirrored.step);
+    Image transposed(h, w, 3);
+    run("Transpose_8u_C3R", transposed, [&] {
+        return gexiTranspose_8u_C3R(src.data, src.step, transposed.data, transposed.step, src.size());
+    });
+    demo::write_png(outdir + "/transposed.png", transposed.data, h, w, 3, transposed.step);
 
     std::printf("%-34s %12s  %-8s %s\n", "operation", "time (us)", "status", "checksum");
     for (const auto& r : g_rows) std::printf("%-34s %12.1f  %-8d %08x\n", r.op.c_str(), r.usec, r.status, r.sum);
