@@ -1,5 +1,8 @@
 // The core support library: aligned allocation, cache geometry, features.
-// It keeps no state: every query reads the processor again.
+// The processor is asked once: inside a virtual machine every cpuid traps to
+// the host and costs tens of microseconds, which a copy of a few megabytes
+// would feel. The answers are constants of the machine, kept after the first
+// query (thread-safe function-local statics).
 #include "gexcore.h"
 
 #include <cpuid.h>
@@ -61,6 +64,11 @@ Gex64u feature_word() {
     return f;
 }
 
+const CacheInfo& caches() {
+    static const CacheInfo info = read_caches();
+    return info;
+}
+
 }  // namespace
 
 extern "C" {
@@ -73,7 +81,7 @@ void gexFree(void* ptr) { std::free(ptr); }
 
 GexStatus gexGetMaxCacheSizeB(int* pSizeByte) {
     if (!pSizeByte) return gexStsNullPtr;
-    CacheInfo info = read_caches();
+    const CacheInfo& info = caches();
     if (info.largest <= 0) return gexStsErr;
     *pSizeByte = info.largest;
     return gexStsOk;
@@ -81,13 +89,14 @@ GexStatus gexGetMaxCacheSizeB(int* pSizeByte) {
 
 GexStatus gex_get_cache_line_size(int* pSizeByte) {
     if (!pSizeByte) return gexStsNullPtr;
-    CacheInfo info = read_caches();
+    const CacheInfo& info = caches();
     *pSizeByte = info.line > 0 ? info.line : 64;
     return gexStsOk;
 }
 
 int ownGetFeature(Gex64u featureMask) {
-    return (feature_word() & featureMask) == featureMask ? 1 : 0;
+    static const Gex64u features = feature_word();
+    return (features & featureMask) == featureMask ? 1 : 0;
 }
 
 }  // extern "C"
