@@ -165,6 +165,29 @@ TEST_F(Exports, EachStubIsOneJumpThroughItsOwnSlot) {
     }
 }
 
+// The load and unload hooks exist and return at once: no state is built at
+// load and none is torn down at unload.
+TEST_F(Exports, LoadAndUnloadHooksDoNothing) {
+    std::uint64_t init = 0, fini = 0;
+    for (const auto& sec : elf_->sections) {
+        if (sec.sh_type != SHT_DYNAMIC) continue;
+        for (std::uint64_t off = 0; off + sizeof(Elf64_Dyn) <= sec.sh_size; off += sizeof(Elf64_Dyn)) {
+            Elf64_Dyn d;
+            std::memcpy(&d, elf_->bytes.data() + sec.sh_offset + off, sizeof d);
+            if (d.d_tag == DT_INIT) init = d.d_un.d_ptr;
+            if (d.d_tag == DT_FINI) fini = d.d_un.d_ptr;
+        }
+    }
+    ASSERT_NE(init, 0u);
+    ASSERT_NE(fini, 0u);
+    for (std::uint64_t hook : {init, fini}) {
+        const unsigned char* code = elf_->at_vaddr(hook, 5);
+        ASSERT_NE(code, nullptr);
+        const bool endbr = code[0] == 0xf3 && code[1] == 0x0f && code[2] == 0x1e && code[3] == 0xfa;
+        EXPECT_EQ(code[endbr ? 4 : 0], 0xc3) << "a hook does more than return";
+    }
+}
+
 // Loaded for real: every slot holds an address inside the library's code that
 // is not the stub itself, and a call through a stub works.
 TEST_F(Exports, LoadedSlotsPointAtImplementations) {
