@@ -8,7 +8,13 @@
 extern "C" {
 #endif
 
-/* Declarations are added here as the families land. */
+/* ---- Border copies -------------------------------------------------------- */
+
+/* (end of border copies) */
+
+/* ---- General border filter ------------------------------------------------ */
+
+/* (end of general border filter) */
 
 #ifdef __cplusplus
 }
