@@ -27,12 +27,8 @@
 #include "frame/pixel.hpp"
 
 // The wrappers that the short paths of gexiDivC_16u_C1RSfs call.
-#define GEX_DIV_USE_WRAPPER(name) \
-    namespace gex {               \
-    __attribute__((visibility("hidden"))) decltype(::name) name; \
-    }
-GEX_DIV_USE_WRAPPER(gexiSet_16u_C1R)
-GEX_DIV_USE_WRAPPER(gexiCopy_16u_C1R)
+GEX_USE(gexiSet_16u_C1R)
+GEX_USE(gexiCopy_16u_C1R)
 
 namespace gex {
 

@@ -24,16 +24,12 @@
 #include "frame/pixel.hpp"
 
 // The copies that the same-depth identity calls.
-#define GEX_USE_WRAPPER(name) \
-    namespace gex {           \
-    __attribute__((visibility("hidden"))) decltype(::name) name; \
-    }
-GEX_USE_WRAPPER(gexiCopy_8u_C1R)
-GEX_USE_WRAPPER(gexiCopy_16u_C1R)
-GEX_USE_WRAPPER(gexiCopy_16s_C1R)
-GEX_USE_WRAPPER(gexiCopy_32s_C1R)
-GEX_USE_WRAPPER(gexiCopy_32f_C1R)
-GEX_USE_WRAPPER(gexiCopy_16u_C4R)
+GEX_USE(gexiCopy_8u_C1R)
+GEX_USE(gexiCopy_16u_C1R)
+GEX_USE(gexiCopy_16s_C1R)
+GEX_USE(gexiCopy_32s_C1R)
+GEX_USE(gexiCopy_32f_C1R)
+GEX_USE(gexiCopy_16u_C4R)
 
 namespace gex {
 

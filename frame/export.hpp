@@ -47,3 +47,12 @@
     }                                                                               \
     GEX_EXPORT_STUB_ASM(name)                                                       \
     ret gex::name params
+
+// Declares the implementation gex::name of another export, so that a wrapper
+// can call it directly (never through the slot). GEX_USE is written at global
+// scope, GEX_DECLARE_IMPL inside namespace gex.
+#define GEX_DECLARE_IMPL(name) __attribute__((visibility("hidden"))) decltype(::name) name;
+#define GEX_USE(name) \
+    namespace gex {   \
+    GEX_DECLARE_IMPL(name) \
+    }
