@@ -7,28 +7,12 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "data/copy.hpp"
+#include "data/set.hpp"
 #include "frame/checks.hpp"
 #include "frame/pixel.hpp"
 #include "gexip.h"
 
-// The Copy and Set wrappers are reached directly, never through the slots.
-#define GEX_ARITH_USE_WRAPPER(name) \
-    namespace gex {                 \
-    __attribute__((visibility("hidden"))) decltype(::name) name; \
-    }
-#define GEX_ARITH_USE_COPY_SET(D)        \
-    GEX_ARITH_USE_WRAPPER(gexiCopy_##D##_C1R)  \
-    GEX_ARITH_USE_WRAPPER(gexiCopy_##D##_C3R)  \
-    GEX_ARITH_USE_WRAPPER(gexiCopy_##D##_C4R)  \
-    GEX_ARITH_USE_WRAPPER(gexiCopy_##D##_AC4R) \
-    GEX_ARITH_USE_WRAPPER(gexiSet_##D##_C1R)   \
-    GEX_ARITH_USE_WRAPPER(gexiSet_##D##_C3R)   \
-    GEX_ARITH_USE_WRAPPER(gexiSet_##D##_C4R)   \
-    GEX_ARITH_USE_WRAPPER(gexiSet_##D##_AC4R)
-GEX_ARITH_USE_COPY_SET(8u)
-GEX_ARITH_USE_COPY_SET(16u)
-GEX_ARITH_USE_COPY_SET(16s)
-GEX_ARITH_USE_COPY_SET(32s)
 
 namespace gex {
 

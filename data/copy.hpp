@@ -6,11 +6,35 @@
 // arithmetic) call these directly.
 #pragma once
 
+#include "frame/export.hpp"
+
 #include <algorithm>
 #include <cstdint>
 
 #include "frame/pixel.hpp"
 #include "gexdefs.h"
+
+// The whole-pixel Copy wrappers, for the short paths of other families.
+GEX_USE(gexiCopy_8u_C1R)
+GEX_USE(gexiCopy_8u_C3R)
+GEX_USE(gexiCopy_8u_C4R)
+GEX_USE(gexiCopy_8u_AC4R)
+GEX_USE(gexiCopy_16u_C1R)
+GEX_USE(gexiCopy_16u_C3R)
+GEX_USE(gexiCopy_16u_C4R)
+GEX_USE(gexiCopy_16u_AC4R)
+GEX_USE(gexiCopy_16s_C1R)
+GEX_USE(gexiCopy_16s_C3R)
+GEX_USE(gexiCopy_16s_C4R)
+GEX_USE(gexiCopy_16s_AC4R)
+GEX_USE(gexiCopy_32s_C1R)
+GEX_USE(gexiCopy_32s_C3R)
+GEX_USE(gexiCopy_32s_C4R)
+GEX_USE(gexiCopy_32s_AC4R)
+GEX_USE(gexiCopy_32f_C1R)
+GEX_USE(gexiCopy_32f_C3R)
+GEX_USE(gexiCopy_32f_C4R)
+GEX_USE(gexiCopy_32f_AC4R)
 
 namespace gex {
 

@@ -8,10 +8,34 @@
 // paths of the arithmetic, border copies) call it directly.
 #pragma once
 
+#include "frame/export.hpp"
+
 #include <cstdint>
 #include <cstring>
 
 #include "gexdefs.h"
+
+// The whole-pixel Set wrappers, for the short paths of other families.
+GEX_USE(gexiSet_8u_C1R)
+GEX_USE(gexiSet_8u_C3R)
+GEX_USE(gexiSet_8u_C4R)
+GEX_USE(gexiSet_8u_AC4R)
+GEX_USE(gexiSet_16u_C1R)
+GEX_USE(gexiSet_16u_C3R)
+GEX_USE(gexiSet_16u_C4R)
+GEX_USE(gexiSet_16u_AC4R)
+GEX_USE(gexiSet_16s_C1R)
+GEX_USE(gexiSet_16s_C3R)
+GEX_USE(gexiSet_16s_C4R)
+GEX_USE(gexiSet_16s_AC4R)
+GEX_USE(gexiSet_32s_C1R)
+GEX_USE(gexiSet_32s_C3R)
+GEX_USE(gexiSet_32s_C4R)
+GEX_USE(gexiSet_32s_AC4R)
+GEX_USE(gexiSet_32f_C1R)
+GEX_USE(gexiSet_32f_C3R)
+GEX_USE(gexiSet_32f_C4R)
+GEX_USE(gexiSet_32f_AC4R)
 
 namespace gex {
 
