@@ -26,6 +26,7 @@
 #include "data/convert.hpp"
 #include "data/convert_kernels.hpp"
 #include "gexip.h"
+#include "support/fenced.hpp"
 #include "support/guarded.hpp"
 
 using gextest::Guarded;
@@ -545,32 +546,8 @@ TEST(ConvertRows, HelpersMatchTheExports) {
 
 namespace {
 
-// Elements whose last one sits right before an inaccessible page, so a read
-// past the row faults.
 template <class T>
-class PageEnd {
-public:
-    explicit PageEnd(std::size_t n) {
-        const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-        const std::size_t bytes = n * sizeof(T);
-        const std::size_t data = (bytes + page - 1) / page * page;
-        map_bytes_ = data + page;
-        map_ = static_cast<std::uint8_t*>(
-            mmap(nullptr, map_bytes_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-        if (map_ == MAP_FAILED) throw std::runtime_error("mmap");
-        mprotect(map_ + data, page, PROT_NONE);
-        base_ = reinterpret_cast<T*>(map_ + (data - bytes));
-    }
-    PageEnd(const PageEnd&) = delete;
-    PageEnd& operator=(const PageEnd&) = delete;
-    ~PageEnd() { munmap(map_, map_bytes_); }
-    T* data() { return base_; }
-
-private:
-    std::size_t map_bytes_;
-    std::uint8_t* map_;
-    T* base_;
-};
+using PageEnd = gextest::FencedArray<T>;
 
 // Every length 1..200 at odd element offsets: the vector row and the scalar
 // row write the same elements, nothing outside the row, and with AC4 never

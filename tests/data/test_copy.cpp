@@ -19,6 +19,7 @@
 #include "data/copy.hpp"
 #include "gexcore.h"
 #include "gexip.h"
+#include "support/fenced.hpp"
 #include "support/guarded.hpp"
 
 using gextest::Guarded;
@@ -128,31 +129,7 @@ void check_statuses(int channels, Call call) {
     EXPECT_TRUE(dst.guards_ok());
 }
 
-// Memory whose accessible part ends at a page boundary: base() + size is the
-// first inaccessible byte.
-class PageEnd {
-public:
-    explicit PageEnd(std::size_t size) : size_(size) {
-        const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-        const std::size_t data = (size + page - 1) / page * page;
-        map_bytes_ = data + page;
-        map_ = static_cast<std::uint8_t*>(
-            mmap(nullptr, map_bytes_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-        if (map_ == MAP_FAILED) throw std::runtime_error("mmap");
-        mprotect(map_ + data, page, PROT_NONE);
-        base_ = map_ + (data - size);
-    }
-    PageEnd(const PageEnd&) = delete;
-    PageEnd& operator=(const PageEnd&) = delete;
-    ~PageEnd() { munmap(map_, map_bytes_); }
-    std::uint8_t* base() { return base_; }
-    std::size_t size() const { return size_; }
-
-private:
-    std::size_t size_, map_bytes_;
-    std::uint8_t* map_;
-    std::uint8_t* base_;
-};
+using PageEnd = gextest::Fenced;
 
 void fill_bytes(std::uint8_t* p, std::size_t n, std::mt19937_64& rng) {
     for (std::size_t i = 0; i < n; ++i) p[i] = static_cast<std::uint8_t>(rng());

@@ -15,6 +15,7 @@
 
 #include "data/swap_channels_kernels.hpp"
 #include "gexip.h"
+#include "support/fenced.hpp"
 #include "support/guarded.hpp"
 
 using gextest::Guarded;
@@ -108,29 +109,7 @@ GEX_TEST_SWAP(32f, Gex32f)
 
 // A row of n bytes whose first byte follows an inaccessible page (front) or
 // whose last byte precedes one (back).
-class FencedRow {
-public:
-    FencedRow(std::size_t n, bool front) {
-        const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-        const std::size_t data = (n + page - 1) / page * page + page;
-        bytes_ = data + 2 * page;
-        map_ = static_cast<std::uint8_t*>(
-            mmap(nullptr, bytes_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-        if (map_ == MAP_FAILED) throw std::runtime_error("mmap");
-        mprotect(map_, page, PROT_NONE);
-        mprotect(map_ + page + data, page, PROT_NONE);
-        p_ = front ? map_ + page : map_ + page + data - n;
-    }
-    FencedRow(const FencedRow&) = delete;
-    FencedRow& operator=(const FencedRow&) = delete;
-    ~FencedRow() { munmap(map_, bytes_); }
-    std::uint8_t* data() { return p_; }
-
-private:
-    std::uint8_t* map_;
-    std::size_t bytes_;
-    std::uint8_t* p_;
-};
+using FencedRow = gextest::Fenced;
 
 }  // namespace
 

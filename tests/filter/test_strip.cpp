@@ -19,35 +19,16 @@
 #include "filter/border.hpp"
 #include "filter/strip.hpp"
 #include "gexip.h"
+#include "support/fenced.hpp"
 #include "support/guarded.hpp"
 
 using gextest::Guarded;
 
 namespace {
 
-// `bytes` of scratch ending right before an inaccessible page, so the driver
-// cannot use more than it was given.
-class PageEndBuffer {
-public:
-    explicit PageEndBuffer(std::int64_t bytes) {
-        const std::int64_t page = sysconf(_SC_PAGESIZE);
-        map_ = ((bytes + page - 1) / page + 1) * page;
-        void* m = mmap(nullptr, map_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-        if (m == MAP_FAILED) throw std::runtime_error("mmap");
-        base_ = static_cast<std::uint8_t*>(m);
-        mprotect(base_ + map_ - page, page, PROT_NONE);
-        ptr_ = base_ + map_ - page - bytes;
-    }
-    PageEndBuffer(const PageEndBuffer&) = delete;
-    PageEndBuffer& operator=(const PageEndBuffer&) = delete;
-    ~PageEndBuffer() { munmap(base_, map_); }
-    void* get() const { return ptr_; }
-
-private:
-    std::int64_t map_ = 0;
-    std::uint8_t* base_ = nullptr;
-    std::uint8_t* ptr_ = nullptr;
-};
+// Scratch ending right before an inaccessible page, so the driver cannot use
+// more than it was given.
+using PageEndBuffer = gextest::Fenced;
 
 TEST(StripScratch, WorkedSizes) {
     // 3 x 3 over 10 x 10, 8u: ax = ay = 1, top = 12 * 3, left = 12 * 3; 36 -> 64 + 32.
