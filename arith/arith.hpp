@@ -27,33 +27,13 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "data/copy.hpp"
+#include "data/set.hpp"
 #include "frame/checks.hpp"
 #include "frame/large.hpp"
 #include "frame/pixel.hpp"
 #include "frame/simd.hpp"
 #include "gexip.h"
-
-// The Copy and Set wrappers of the short paths, called directly (not through
-// their slots).
-#define GEX_ARITH_USE(name)                                        \
-    namespace gex {                                                \
-    __attribute__((visibility("hidden"))) decltype(::name) name;   \
-    }
-#define GEX_ARITH_USE_DEPTH(D)        \
-    GEX_ARITH_USE(gexiCopy_##D##_C1R) \
-    GEX_ARITH_USE(gexiCopy_##D##_C3R) \
-    GEX_ARITH_USE(gexiCopy_##D##_C4R) \
-    GEX_ARITH_USE(gexiCopy_##D##_AC4R) \
-    GEX_ARITH_USE(gexiSet_##D##_C1R)  \
-    GEX_ARITH_USE(gexiSet_##D##_C3R)  \
-    GEX_ARITH_USE(gexiSet_##D##_C4R)  \
-    GEX_ARITH_USE(gexiSet_##D##_AC4R)
-GEX_ARITH_USE_DEPTH(8u)
-GEX_ARITH_USE_DEPTH(16u)
-GEX_ARITH_USE_DEPTH(16s)
-GEX_ARITH_USE_DEPTH(32f)
-#undef GEX_ARITH_USE_DEPTH
-#undef GEX_ARITH_USE
 
 namespace gex {
 
