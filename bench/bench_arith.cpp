@@ -9,6 +9,8 @@
 #include <functional>
 #include <string>
 
+#include <vector>
+
 #include "common.hpp"
 
 #ifdef GEX_HAVE_OPENCV
@@ -94,6 +96,17 @@ const std::vector<Op>& ops() {
          [](Buffer& a, Buffer& b, Buffer& d, Size s) {
              return gexiMul_8u_C1RSfs(a.data, a.step, b.data, b.step, d.data, d.step, {s.width, s.height}, 4);
          } PEER(CV_8UC1, [](const cv::Mat& a, const cv::Mat& b, cv::Mat& d) { cv::multiply(a, b, d, 1.0 / 16); })},
+        // |a - b| from the library's pieces: the two saturating differences
+        // (one of them is 0 at every pixel), then their sum.
+        {"AbsDiff_8u_SubSubAdd", Kind::U8, 1,
+         [](Buffer& a, Buffer& b, Buffer& d, Size s) {
+             static thread_local std::vector<Gex8u> t;
+             t.resize(static_cast<std::size_t>(s.width) * s.height);
+             const GexiSize roi{s.width, s.height};
+             gexiSub_8u_C1RSfs(b.data, b.step, a.data, a.step, d.data, d.step, roi, 0);
+             gexiSub_8u_C1RSfs(a.data, a.step, b.data, b.step, t.data(), s.width, roi, 0);
+             return gexiAdd_8u_C1IRSfs(t.data(), s.width, d.data, d.step, roi, 0);
+         } PEER(CV_8UC1, [](const cv::Mat& a, const cv::Mat& b, cv::Mat& d) { cv::absdiff(a, b, d); })},
         {"Sub_16s_C1RSfs", Kind::S16, 2,
          [](Buffer& a, Buffer& b, Buffer& d, Size s) {
              return gexiSub_16s_C1RSfs(as<Gex16s>(a), a.step, as<Gex16s>(b), b.step, as<Gex16s>(d), d.step,

@@ -215,6 +215,15 @@ int main(int argc, char** argv) {
     });
     demo::write_png(outdir + "/transposed.png", transposed.data, h, w, 3, transposed.step);
 
+    // Arithmetic: the average of the image and its mirror, (a + b) / 2 with
+    // ties to even (scale factor 1).
+    Image blended(w, h, 3);
+    run("Add_8u_C3RSfs (average, factor 1)", blended, [&] {
+        return gexiAdd_8u_C3RSfs(src.data, src.step, mirrored.data, mirrored.step, blended.data, blended.step,
+                                 src.size(), 1);
+    });
+    demo::write_png(outdir + "/average_with_mirror.png", blended.data, w, h, 3, blended.step);
+
     std::printf("%-34s %12s  %-8s %s\n", "operation", "time (us)", "status", "checksum");
     for (const auto& r : g_rows) std::printf("%-34s %12.1f  %-8d %08x\n", r.op.c_str(), r.usec, r.status, r.sum);
     std::printf("\nimages written to %s/\n", outdir.c_str());
