@@ -103,8 +103,6 @@ void cv_filter(benchmark::State& st, Size s, int kw, int kh, bool sep) {
     }
     set_bytes(st, 2LL * s.width * s.height * depth_bytes<T>());
     // Agreement with our output on the same input.
-    benchmark::State* none = nullptr;
-    (void)none;
     const GexDataType dt = sizeof(T) == 1 ? gex8u : gex32f;
     int specSize = 0, bufSize = 0;
     gexiFilterBorderGetSize({kw, kh}, {s.width, s.height}, dt, gex32f, 1, &specSize, &bufSize);

@@ -311,7 +311,7 @@ inline void store_float(T* p, __mmask16 m, __m512 S, __m512 off, int rm) {
 
 // One source row for output rows QLO..QHI of a block (see float_block).
 template <class T, int CH, int NR, int NB, int QLO, int QHI>
-inline void float_row_pass(__m512 (&acc)[NR][NB], const T* row, const float* tr, int kw, __mmask16 m) {
+__attribute__((always_inline)) inline void float_row_pass(__m512 (&acc)[NR][NB], const T* row, const float* tr, int kw, __mmask16 m) {
     for (int i = 0; i < kw; ++i, row += CH) {
         __m512 t[NR];
 #pragma GCC unroll 4
@@ -376,7 +376,7 @@ inline void float_rows(const FilterBorderSpec& s, const T* src, int srcStep, T* 
     const T* top = elem_at(src, srcStep, std::int64_t{y} - ay, -std::int64_t{ax} * CH);
     T* d = elem_at(dst, dstStep, y, 0);
     std::int64_t e = 0;
-    constexpr int NB = NR >= 4 ? 2 : 4;
+    constexpr int NB = 4;
     for (; e + 16 * NB <= n; e += 16 * NB)
         float_block<T, CH, NR, NB>(taps, kw, kh, top, srcStep, d, dstStep, e, 0xffff, off, rm);
     for (; e < n; e += 16)

@@ -99,7 +99,6 @@ struct Source {
     int W, H, CH, R;
     Guarded<T> img;
     Source(int w, int h, int ch, int r, Layout lay = {}) : W(w), H(h), CH(ch), R(r), img(w + 2 * r, h + 2 * r, ch, lay) {}
-    const T* roi() const { return img.ptr() + 0 + std::int64_t{0}; }
     const T* roi_ptr() const {
         return reinterpret_cast<const T*>(reinterpret_cast<const std::uint8_t*>(img.ptr()) + std::int64_t{R} * img.step()) +
                std::int64_t{R} * CH;
