@@ -41,8 +41,8 @@ void gex_filter(benchmark::State& st, Size s, int kw, int kh, Buffer& src, Buffe
     const GexDataType dt = sizeof(T) == 1 ? gex8u : gex32f;
     int specSize = 0, bufSize = 0;
     gexiFilterBorderGetSize({kw, kh}, {s.width, s.height}, dt, gex32f, 1, &specSize, &bufSize);
-    std::vector<Gex8u> spec(specSize), buf(bufSize);
-    auto* sp = reinterpret_cast<GexiFilterBorderSpec*>(spec.data());
+    std::vector<Gex8u> block(specSize), buf(bufSize);
+    auto* sp = reinterpret_cast<GexiFilterBorderSpec*>(block.data());
     const auto k = make_kernel(kw, kh);
     gexiFilterBorderInit_32f(k.data(), {kw, kh}, dt, 1, gexRndNear, sp);
     for (auto _ : st) {
@@ -106,8 +106,8 @@ void cv_filter(benchmark::State& st, Size s, int kw, int kh, bool sep) {
     const GexDataType dt = sizeof(T) == 1 ? gex8u : gex32f;
     int specSize = 0, bufSize = 0;
     gexiFilterBorderGetSize({kw, kh}, {s.width, s.height}, dt, gex32f, 1, &specSize, &bufSize);
-    std::vector<Gex8u> spec(specSize), buf(bufSize);
-    auto* sp = reinterpret_cast<GexiFilterBorderSpec*>(spec.data());
+    std::vector<Gex8u> block(specSize), buf(bufSize);
+    auto* sp = reinterpret_cast<GexiFilterBorderSpec*>(block.data());
     gexiFilterBorderInit_32f(k.data(), {kw, kh}, dt, 1, gexRndNear, sp);
     if constexpr (sizeof(T) == 1)
         gexiFilterBorder_8u_C1R(src.data, src.step, ours.data, ours.step, {s.width, s.height}, gexBorderRepl, nullptr, sp,

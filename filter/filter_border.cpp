@@ -86,7 +86,7 @@ namespace {
 // The float record: reversed taps tap(k), k = 0..n-1 in kernel order.
 template <class TapFn>
 GexStatus init_float(TapFn tap, int kw, int kh, int dataType, int numChannels, int roundMode, void* pSpec) {
-    FilterBorderSpec* s = spec_at(pSpec);
+    FilterBorderSpec* s = record_at(pSpec);
     s->ident = 0;
     const std::int64_t n = std::int64_t{kw} * kh;
     auto* base = reinterpret_cast<std::uint8_t*>(s);
@@ -138,17 +138,17 @@ GEX_EXPORT(GexStatus, gexiFilterBorderGetSize,
     const int kw = kernelSize.width, kh = kernelSize.height;
     if (kt == gex16s && !integer_path(dt, numChannels, kw, kh)) kt = gex32f;
     const std::int64_t n = std::int64_t{kw} * kh;
-    std::int64_t spec = ((((std::int64_t{kw} + 1) >> 1) * 8 * kh * 4 + 63) & ~std::int64_t{63}) +
+    std::int64_t rec = ((((std::int64_t{kw} + 1) >> 1) * 8 * kh * 4 + 63) & ~std::int64_t{63}) +
                         (((kt == gex16s ? n * 2 : n * 4) + 63) & ~std::int64_t{63}) + 191;
-    if (kt == gex32f && numChannels == 1 && dt == gex32f) spec += (n * 16 * 4 + 63) & ~std::int64_t{63};
+    if (kt == gex32f && numChannels == 1 && dt == gex32f) rec += (n * 16 * 4 + 63) & ~std::int64_t{63};
     const std::int64_t buf = owngetSizeBufferOfBorders(kw, kh, dstRoiSize.width, dstRoiSize.height, dt, numChannels) +
                              filter_border_kernel_scratch(kw, kh, dstRoiSize.width, dt, kt, numChannels) + 63;
-    if (spec > kMaxSize || buf > kMaxSize) {
-        if (spec <= kMaxSize) *pSpecSize = static_cast<int>(spec);
+    if (rec > kMaxSize || buf > kMaxSize) {
+        if (rec <= kMaxSize) *pSpecSize = static_cast<int>(rec);
         *pBufferSize = 0;
         return gexStsExceededSize;
     }
-    *pSpecSize = static_cast<int>(spec);
+    *pSpecSize = static_cast<int>(rec);
     *pBufferSize = static_cast<int>(buf);
     return gexStsOk;
 }
@@ -189,7 +189,7 @@ GEX_EXPORT(GexStatus, gexiFilterBorderInit_16s,
                           numChannels, rm, pSpec);
     }
 
-    FilterBorderSpec* s = spec_at(pSpec);
+    FilterBorderSpec* s = record_at(pSpec);
     s->ident = 0;
     const std::int64_t n = std::int64_t{kw} * kh;
     auto* base = reinterpret_cast<std::uint8_t*>(s);
@@ -245,7 +245,7 @@ GEX_EXPORT(GexStatus, gexiFilterBorderInit_16s,
 
 GEX_EXPORT(GexStatus, gexiFilterBorderSetMode, (GexHintAlgorithm hint, int offset, GexiFilterBorderSpec* pSpec)) {
     GEX_CHECK(check_null(pSpec));
-    FilterBorderSpec* s = spec_at(pSpec);
+    FilterBorderSpec* s = record_at(pSpec);
     if (s->ident != kFilterBorderIdent) return gexStsContextMatch;
     const int kind = s->kind;
     if ((kind == 1 || kind == 4 || kind == 6) && offset != 0) return gexStsNotSupportedMode;
@@ -268,7 +268,7 @@ GexStatus filter_border_run(const T* pSrc, int srcStep, T* pDst, int dstStep, Ge
                             const T* pBorderValue, const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer) {
     GEX_CHECK(check_null(pSrc, pDst, pSpec, pBuffer));
     if ((border & kBorderModeMask) == gexBorderConst && pBorderValue == nullptr) return gexStsNullPtr;
-    const FilterBorderSpec* s = spec_at(pSpec);
+    const FilterBorderSpec* s = record_at(pSpec);
     if (s->ident != kFilterBorderIdent) return gexStsContextMatch;
     GEX_CHECK(check_roi(roi));
     if (srcStep < 1 || dstStep < static_cast<std::int64_t>(roi.width) * static_cast<std::int64_t>(sizeof(T)))

@@ -56,10 +56,10 @@ inline constexpr int kAccurateFlag = 16;
 static_assert(sizeof(FilterBorderSpec) <= kFilterBorderHead, "the record's head is 128 bytes");
 static_assert(offsetof(FilterBorderSpec, divisorD) % 8 == 0, "divisorD is aligned");
 
-inline FilterBorderSpec* spec_at(void* p) {
+inline FilterBorderSpec* record_at(void* p) {
     return reinterpret_cast<FilterBorderSpec*>((reinterpret_cast<std::uintptr_t>(p) + 63) & ~std::uintptr_t{63});
 }
-inline const FilterBorderSpec* spec_at(const void* p) { return spec_at(const_cast<void*>(p)); }
+inline const FilterBorderSpec* record_at(const void* p) { return record_at(const_cast<void*>(p)); }
 
 // The size of the kernel's scratch that the buffer query adds after the
 // border scratch, before its own 63 bytes of slack (0 when v is 0).

@@ -26,8 +26,10 @@
 //       what setting the processor's rounding control for the run would give.
 //   * Float taps (kinds 3..6): S accumulates pixel x tap with fused
 //     multiply-adds in the order of the taps (row after row), from 0.
-//     filter_float_ref and filter_float_vec (16 elements a lane group, four
-//     groups at a time, masked tails) therefore give identical bits; the
+//     filter_float_ref and filter_float_vec (four output rows and 64
+//     elements at a time where the kernel has two rows or more, so that a
+//     loaded and converted source vector feeds up to four sums; masked
+//     tails) therefore give identical bits; the
 //     conversion (conv_float) saturates and rounds by the mode for integer
 //     pixels and leaves 32f sums as they are.
 #pragma once

@@ -67,10 +67,10 @@ template <class T> constexpr double hi_of() { return std::is_same_v<T, Gex32f> ?
 // A record in a block with an odd start, so that the 64-byte alignment matters.
 struct Record {
     std::vector<std::uint8_t> mem;
-    GexiFilterBorderSpec* spec = nullptr;
+    GexiFilterBorderSpec* rec = nullptr;
     // The block starts at an odd address and holds exactly `bytes` from there.
     explicit Record(int bytes) : mem(static_cast<std::size_t>(bytes) + 3) {
-        spec = reinterpret_cast<GexiFilterBorderSpec*>(mem.data() + 3);
+        rec = reinterpret_cast<GexiFilterBorderSpec*>(mem.data() + 3);
     }
 };
 
@@ -211,16 +211,16 @@ void check_against_model(const Case& cs, const Kernel& k, bool integer, int rm, 
     Record rec(specSize);
     std::vector<Gex8u> buf(static_cast<std::size_t>(bufSize));
     GexStatus st = integer ? gexiFilterBorderInit_16s(k.k16.data(), {k.kw, k.kh}, k.divisor, type_of<T>(), CH,
-                                                      static_cast<GexRoundMode>(rm), rec.spec)
+                                                      static_cast<GexRoundMode>(rm), rec.rec)
                            : gexiFilterBorderInit_32f(k.k32.data(), {k.kw, k.kh}, type_of<T>(), CH,
-                                                      static_cast<GexRoundMode>(rm), rec.spec);
+                                                      static_cast<GexRoundMode>(rm), rec.rec);
     ASSERT_GE(st, 0) << what;
-    const auto* rs = gex::spec_at(rec.spec);
+    const auto* rs = gex::record_at(rec.rec);
     const bool intKind = rs->kind < 3;
     T bv[4];
     for (int c = 0; c < 4; ++c) bv[c] = static_cast<T>(std::is_same_v<T, Gex16s> ? -100 + 37 * c : 7 + 37 * c);
     ASSERT_EQ((run<T, CH>)(src.roi_ptr(), src.img.step(), dst.ptr(), dst.step(), GexiSize{cs.W, cs.H}, cs.border, bv,
-                         rec.spec, buf.data()),
+                         rec.rec, buf.data()),
               gexStsOk)
         << what;
     ASSERT_TRUE(dst.guards_ok()) << what;
@@ -329,12 +329,12 @@ TEST(FilterBorderModel, LargeTapsLeaveTheSixteenBitPaths) {
     int specSize, bufSize;
     ASSERT_EQ(gexiFilterBorderGetSize({3, 3}, {40, 6}, gex8u, gex16s, 1, &specSize, &bufSize), 0);
     Record rec(specSize);
-    ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 1000, gex8u, 1, gexRndNear, rec.spec), 0);
-    EXPECT_EQ(gex::spec_at(rec.spec)->tapsFit16, 0);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 1000, gex8u, 1, gexRndNear, rec.rec), 0);
+    EXPECT_EQ(gex::record_at(rec.rec)->tapsFit16, 0);
     k.k16[4] = 32766;
     k.k16[0] = -32767;
-    ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 1000, gex8u, 1, gexRndNear, rec.spec), 0);
-    EXPECT_EQ(gex::spec_at(rec.spec)->tapsFit16, 1);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 1000, gex8u, 1, gexRndNear, rec.rec), 0);
+    EXPECT_EQ(gex::record_at(rec.rec)->tapsFit16, 1);
 }
 
 TEST(FilterBorderModel, OffsetOnUnsignedPixels) {
@@ -349,10 +349,10 @@ TEST(FilterBorderModel, OffsetOnUnsignedPixels) {
         ASSERT_EQ(gexiFilterBorderGetSize({3, 3}, {cs.W, cs.H}, gex8u, gex16s, 1, &ss, &bs), 0);
         Record rec(ss);
         std::vector<Gex8u> buf(bs);
-        ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 5, gex8u, 1, static_cast<GexRoundMode>(rm), rec.spec), 0);
-        ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 40, rec.spec), 0);
+        ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {3, 3}, 5, gex8u, 1, static_cast<GexRoundMode>(rm), rec.rec), 0);
+        ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 40, rec.rec), 0);
         ASSERT_EQ(gexiFilterBorder_8u_C1R(src.roi_ptr(), src.img.step(), dst.ptr(), dst.step(), {cs.W, cs.H},
-                                          gexBorderRepl, nullptr, rec.spec, buf.data()),
+                                          gexBorderRepl, nullptr, rec.rec, buf.data()),
                   0);
         for (int y = 0; y < cs.H; ++y)
             for (int x = 0; x < cs.W; ++x) {
@@ -374,10 +374,10 @@ TEST(FilterBorderRule, OneByOneKernelOfItsDivisorIsTheSource) {
             src.fill_random(rng);
             const Gex16s tap = static_cast<Gex16s>(d);
             Record rec(4096);
-            ASSERT_EQ(gexiFilterBorderInit_16s(&tap, {1, 1}, d, gex8u, 3, static_cast<GexRoundMode>(rm), rec.spec), 0);
+            ASSERT_EQ(gexiFilterBorderInit_16s(&tap, {1, 1}, d, gex8u, 3, static_cast<GexRoundMode>(rm), rec.rec), 0);
             std::vector<Gex8u> buf(4096);
             ASSERT_EQ(gexiFilterBorder_8u_C3R(src.ptr(), src.step(), dst.ptr(), dst.step(), {70, 5}, gexBorderRepl,
-                                              nullptr, rec.spec, buf.data()),
+                                              nullptr, rec.rec, buf.data()),
                       0);
             EXPECT_EQ(src.snapshot(), dst.snapshot()) << d << " " << rm;
         }
@@ -393,10 +393,10 @@ TEST(FilterBorderRule, EvenWidthMirrorReadsXAndXPlusOne) {
         for (int x = 0; x < W; ++x) src.at(x, y) = static_cast<Gex16s>(x * x + 3 * y);
     const Gex32f k[2] = {10.0f, 1.0f};
     Record rec(4096);
-    ASSERT_EQ(gexiFilterBorderInit_32f(k, {2, 1}, gex16s, 1, gexRndNear, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k, {2, 1}, gex16s, 1, gexRndNear, rec.rec), 0);
     std::vector<Gex8u> buf(8192);
     ASSERT_EQ(gexiFilterBorder_16s_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {W, H}, gexBorderMirror, nullptr,
-                                       rec.spec, buf.data()),
+                                       rec.rec, buf.data()),
               0);
     for (int y = 0; y < H; ++y)
         for (int x = 0; x < W; ++x) {
@@ -416,10 +416,10 @@ TEST(FilterBorderRule, OneDimensionalFastPathRoundsToEven) {
     Record rec(4096);
     std::vector<Gex8u> buf(8192);
     for (GexHintAlgorithm hint : {gexAlgHintNone, gexAlgHintAccurate}) {
-        ASSERT_EQ(gexiFilterBorderInit_16s(k, {3, 1}, 2, gex8u, 1, gexRndZero, rec.spec), 0);
-        ASSERT_EQ(gexiFilterBorderSetMode(hint, 0, rec.spec), 0);
+        ASSERT_EQ(gexiFilterBorderInit_16s(k, {3, 1}, 2, gex8u, 1, gexRndZero, rec.rec), 0);
+        ASSERT_EQ(gexiFilterBorderSetMode(hint, 0, rec.rec), 0);
         ASSERT_EQ(gexiFilterBorder_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {W, H}, gexBorderRepl, nullptr,
-                                          rec.spec, buf.data()),
+                                          rec.rec, buf.data()),
                   0);
         const int want = hint == gexAlgHintAccurate ? 1 : 2;
         for (int y = 0; y < H; ++y)
@@ -438,9 +438,9 @@ TEST(FilterBorderRule, TwoDimensionalFastPathFollowsTheMode) {
     for (int v : {1, 3})
         for (int rm : {0, 1, 2}) {
             src.fill(static_cast<Gex8u>(v));
-            ASSERT_EQ(gexiFilterBorderInit_16s(k.data(), {3, 3}, 2, gex8u, 1, static_cast<GexRoundMode>(rm), rec.spec), 0);
+            ASSERT_EQ(gexiFilterBorderInit_16s(k.data(), {3, 3}, 2, gex8u, 1, static_cast<GexRoundMode>(rm), rec.rec), 0);
             ASSERT_EQ(gexiFilterBorder_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {W, H}, gexBorderRepl,
-                                              nullptr, rec.spec, buf.data()),
+                                              nullptr, rec.rec, buf.data()),
                       0);
             const double x = 9.0 * v / 2;
             const int want = rm == 0 ? int(x) : rm == 1 ? int(std::nearbyint(x)) : int(std::round(x));
@@ -457,9 +457,9 @@ TEST(FilterBorderRule, FloatTiesAndSaturation) {
     Record rec(4096);
     std::vector<Gex8u> buf(8192);
     for (int rm : {0, 1, 2}) {
-        ASSERT_EQ(gexiFilterBorderInit_32f(k, {1, 1}, gex16s, 1, static_cast<GexRoundMode>(rm), rec.spec), 0);
+        ASSERT_EQ(gexiFilterBorderInit_32f(k, {1, 1}, gex16s, 1, static_cast<GexRoundMode>(rm), rec.rec), 0);
         ASSERT_EQ(gexiFilterBorder_16s_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {W, H}, gexBorderRepl, nullptr,
-                                           rec.spec, buf.data()),
+                                           rec.rec, buf.data()),
                   0);
         for (int x = 0; x < W; ++x) {
             const double v = src.at(x, 0) * 0.5;
@@ -471,11 +471,11 @@ TEST(FilterBorderRule, FloatTiesAndSaturation) {
     for (int x = 0; x < 20; ++x) s8.at(x, 0) = static_cast<Gex8u>(x * 13);
     const Gex32f k8[1] = {-1.0f};
     const Gex32f k8b[1] = {3.0f};
-    ASSERT_EQ(gexiFilterBorderInit_32f(k8, {1, 1}, gex8u, 1, gexRndNear, rec.spec), 0);
-    ASSERT_EQ(gexiFilterBorder_8u_C1R(s8.ptr(), s8.step(), d8.ptr(), d8.step(), {20, 1}, gexBorderRepl, nullptr, rec.spec, buf.data()), 0);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k8, {1, 1}, gex8u, 1, gexRndNear, rec.rec), 0);
+    ASSERT_EQ(gexiFilterBorder_8u_C1R(s8.ptr(), s8.step(), d8.ptr(), d8.step(), {20, 1}, gexBorderRepl, nullptr, rec.rec, buf.data()), 0);
     for (int x = 0; x < 20; ++x) EXPECT_EQ(d8.at(x, 0), 0);
-    ASSERT_EQ(gexiFilterBorderInit_32f(k8b, {1, 1}, gex8u, 1, gexRndNear, rec.spec), 0);
-    ASSERT_EQ(gexiFilterBorder_8u_C1R(s8.ptr(), s8.step(), d8.ptr(), d8.step(), {20, 1}, gexBorderRepl, nullptr, rec.spec, buf.data()), 0);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k8b, {1, 1}, gex8u, 1, gexRndNear, rec.rec), 0);
+    ASSERT_EQ(gexiFilterBorder_8u_C1R(s8.ptr(), s8.step(), d8.ptr(), d8.step(), {20, 1}, gexBorderRepl, nullptr, rec.rec, buf.data()), 0);
     for (int x = 0; x < 20; ++x) EXPECT_EQ(d8.at(x, 0), std::min(255, x * 39));
 }
 
@@ -500,16 +500,16 @@ void vec_vs_ref(std::mt19937& rng) {
             const int div = (n % 3 == 0) ? 1 : (n % 3 == 1) ? 8 : 13;
             const int rm = n % 3;
             // Float taps.
-            ASSERT_EQ(gexiFilterBorderInit_32f(k.k32.data(), {kw, kh}, type_of<T>(), CH, static_cast<GexRoundMode>(rm), rec.spec), 0);
-            auto* s = gex::spec_at(rec.spec);
+            ASSERT_EQ(gexiFilterBorderInit_32f(k.k32.data(), {kw, kh}, type_of<T>(), CH, static_cast<GexRoundMode>(rm), rec.rec), 0);
+            auto* s = gex::record_at(rec.rec);
             filter_float_vec<T, CH>(*s, src.roi_ptr(), src.img.step(), d1.ptr(), d1.step(), {W, H});
             filter_float_ref<T, CH>(*s, src.roi_ptr(), src.img.step(), d2.ptr(), d2.step(), {W, H});
             ASSERT_TRUE(gextest::same_bits(d1.snapshot(), d2.snapshot())) << "float W " << W << " k " << kw << "x" << kh;
             ASSERT_TRUE(d1.guards_ok());
             // Integer taps, each conversion.
             if constexpr (std::is_same_v<T, Gex8u> || (std::is_same_v<T, Gex16s> && CH == 1)) {
-                ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {kw, kh}, div, gex8u, CH, static_cast<GexRoundMode>(rm), rec.spec), 0);
-                ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, std::is_same_v<T, Gex8u> ? 3 : 0, rec.spec), 0);
+                ASSERT_EQ(gexiFilterBorderInit_16s(k.k16.data(), {kw, kh}, div, gex8u, CH, static_cast<GexRoundMode>(rm), rec.rec), 0);
+                ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, std::is_same_v<T, Gex8u> ? 3 : 0, rec.rec), 0);
                 auto both = [&](auto vec, auto ref, const char* name) {
                     vec(*s, src.roi_ptr(), src.img.step(), d1.ptr(), d1.step(), GexiSize{W, H});
                     ref(*s, src.roi_ptr(), src.img.step(), d2.ptr(), d2.step(), GexiSize{W, H});
@@ -564,15 +564,15 @@ void whole_vs_strips(std::mt19937& rng) {
             Kernel k = random_kernel(kw, kh, rng, 5);
             Record rec(1 << 16);
             if constexpr (std::is_same_v<T, Gex32f>)
-                ASSERT_EQ(gexiFilterBorderInit_32f(k.k32.data(), {kw, kh}, type_of<T>(), CH, gexRndNear, rec.spec), 0);
+                ASSERT_EQ(gexiFilterBorderInit_32f(k.k32.data(), {kw, kh}, type_of<T>(), CH, gexRndNear, rec.rec), 0);
             else
-                ASSERT_GE(gexiFilterBorderInit_16s(k.k16.data(), {kw, kh}, 5, type_of<T>(), CH, gexRndNear, rec.spec), 0);
+                ASSERT_GE(gexiFilterBorderInit_16s(k.k16.data(), {kw, kh}, 5, type_of<T>(), CH, gexRndNear, rec.rec), 0);
             const T bv[4] = {T(3), T(50), T(9), T(100)};
             std::vector<Gex8u> buf(1 << 16);
-            ASSERT_EQ((run<T, CH>)(src.roi_ptr(), src.img.step(), d1.ptr(), d1.step(), GexiSize{W, H}, border, bv, rec.spec,
+            ASSERT_EQ((run<T, CH>)(src.roi_ptr(), src.img.step(), d1.ptr(), d1.step(), GexiSize{W, H}, border, bv, rec.rec,
                                  buf.data()),
                       0);
-            const auto* s = gex::spec_at(rec.spec);
+            const auto* s = gex::record_at(rec.rec);
             auto kernel = [s](const T* a, int as, T* b, int bs, GexiSize r) { gex::fb::filter_interior<T, CH>(*s, a, as, b, bs, r); };
             gex::StripOptions opt;
             opt.mirrorReach2 = true;
@@ -601,7 +601,7 @@ TEST(FilterBorderStatus, RunChecksInOrderAndWriteNothing) {
     Record rec(4096);
     std::vector<Gex8u> buf(8192);
     const Gex16s k[9] = {1, 2, 1, 2, 4, 2, 1, 2, 1};
-    ASSERT_EQ(gexiFilterBorderInit_16s(k, {3, 3}, 16, gex8u, 1, gexRndNear, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k, {3, 3}, 16, gex8u, 1, gexRndNear, rec.rec), 0);
     const Gex8u bv[1] = {5};
     const GexiSize roi{16, 8};
     auto call = [&](const Gex8u* s, Gex8u* d, const GexiFilterBorderSpec* sp, Gex8u* b, const Gex8u* v, GexiSize r,
@@ -609,20 +609,20 @@ TEST(FilterBorderStatus, RunChecksInOrderAndWriteNothing) {
         return gexiFilterBorder_8u_C1R(s, ss, d, ds, r, static_cast<GexiBorderType>(border), v, sp, b);
     };
     const int S = src.step(), D = dst.step();
-    EXPECT_EQ(call(nullptr, dst.ptr(), rec.spec, buf.data(), bv, {0, 0}, 0, 0, 999), gexStsNullPtr);
-    EXPECT_EQ(call(src.ptr(), nullptr, rec.spec, buf.data(), bv, roi, S, D, 1), gexStsNullPtr);
+    EXPECT_EQ(call(nullptr, dst.ptr(), rec.rec, buf.data(), bv, {0, 0}, 0, 0, 999), gexStsNullPtr);
+    EXPECT_EQ(call(src.ptr(), nullptr, rec.rec, buf.data(), bv, roi, S, D, 1), gexStsNullPtr);
     EXPECT_EQ(call(src.ptr(), dst.ptr(), nullptr, buf.data(), bv, roi, S, D, 1), gexStsNullPtr);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, nullptr, bv, roi, S, D, 1), gexStsNullPtr);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), nullptr, {0, 0}, 0, 0, 6), gexStsNullPtr);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), nullptr, {0, 0}, 0, 0, 6 | 240), gexStsNullPtr);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, nullptr, bv, roi, S, D, 1), gexStsNullPtr);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), nullptr, {0, 0}, 0, 0, 6), gexStsNullPtr);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), nullptr, {0, 0}, 0, 0, 6 | 240), gexStsNullPtr);
     // A null constant outside mode 6 is not read.
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), nullptr, {0, 0}, 0, 0, 1), gexStsSize);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), bv, {16, 0}, 0, 0, 99), gexStsSize);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, 0, D, 99), gexStsStep);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, S, 15, 99), gexStsStep);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, -S, 16, 99), gexStsStep);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), nullptr, {0, 0}, 0, 0, 1), gexStsSize);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), bv, {16, 0}, 0, 0, 99), gexStsSize);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, 0, D, 99), gexStsStep);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, S, 15, 99), gexStsStep);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, -S, 16, 99), gexStsStep);
     for (int b : {0, 2, 4, 5, 7, 16, 256, 257, -1, 4 | 240})
-        EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, S, D, b), gexStsBorder) << b;
+        EXPECT_EQ(call(src.ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, S, D, b), gexStsBorder) << b;
     EXPECT_EQ(before, dst.snapshot());
     EXPECT_TRUE(dst.guards_ok());
     // The step test counts the width alone, not the channels.
@@ -630,19 +630,19 @@ TEST(FilterBorderStatus, RunChecksInOrderAndWriteNothing) {
     s3.fill(1.0f);
     Record r3(4096);
     const Gex32f one = 1.0f;
-    ASSERT_EQ(gexiFilterBorderInit_32f(&one, {1, 1}, gex32f, 3, gexRndNear, r3.spec), 0);
-    EXPECT_EQ(gexiFilterBorder_32f_C3R(s3.ptr(), s3.step(), d3.ptr(), 15, {4, 4}, gexBorderRepl, nullptr, r3.spec, buf.data()),
+    ASSERT_EQ(gexiFilterBorderInit_32f(&one, {1, 1}, gex32f, 3, gexRndNear, r3.rec), 0);
+    EXPECT_EQ(gexiFilterBorder_32f_C3R(s3.ptr(), s3.step(), d3.ptr(), 15, {4, 4}, gexBorderRepl, nullptr, r3.rec, buf.data()),
               gexStsStep);
     // A record never made by an Init.
     Record blank(4096);
-    EXPECT_EQ(call(src.ptr(), dst.ptr(), blank.spec, buf.data(), bv, roi, S, D, 1), gexStsContextMatch);
-    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 0, blank.spec), gexStsContextMatch);
+    EXPECT_EQ(call(src.ptr(), dst.ptr(), blank.rec, buf.data(), bv, roi, S, D, 1), gexStsContextMatch);
+    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 0, blank.rec), gexStsContextMatch);
     EXPECT_EQ(before, dst.snapshot());
     // 240 and 241 pass.
     Source<Gex8u> big(16, 8, 1, 2);
     big.img.fill(4);
-    EXPECT_EQ(call(big.roi_ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, big.img.step(), D, 240), gexStsOk);
-    EXPECT_EQ(call(big.roi_ptr(), dst.ptr(), rec.spec, buf.data(), bv, roi, big.img.step(), D, 241), gexStsOk);
+    EXPECT_EQ(call(big.roi_ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, big.img.step(), D, 240), gexStsOk);
+    EXPECT_EQ(call(big.roi_ptr(), dst.ptr(), rec.rec, buf.data(), bv, roi, big.img.step(), D, 241), gexStsOk);
     EXPECT_EQ(dst.at(3, 3), 4);
 }
 
@@ -691,26 +691,26 @@ TEST(FilterBorderStatus, InitChecks) {
     auto i32 = [&](const Gex32f* k, GexiSize ks, int dt, int ch, int rm, GexiFilterBorderSpec* sp) {
         return gexiFilterBorderInit_32f(k, ks, static_cast<GexDataType>(dt), ch, static_cast<GexRoundMode>(rm), sp);
     };
-    EXPECT_EQ(i16(nullptr, {0, 0}, 0, 99, 9, 9, rec.spec), gexStsNullPtr);
+    EXPECT_EQ(i16(nullptr, {0, 0}, 0, 99, 9, 9, rec.rec), gexStsNullPtr);
     EXPECT_EQ(i16(k16, {3, 2}, 0, 99, 9, 9, nullptr), gexStsNullPtr);
-    EXPECT_EQ(i16(k16, {3, 0}, 0, 99, 9, 9, rec.spec), gexStsSize);
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 99, 9, 9, rec.spec), gexStsDataType);
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 13, 9, 9, rec.spec), gexStsChannelFormat);   // 32f passes the first type test
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 13 , 1, 16 + 0, rec.spec), gexStsDataType);  // but not with flag 16
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 9, 9, rec.spec), gexStsChannelFormat);
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, 3, rec.spec), gexStsRoundMode);
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, -1, rec.spec), gexStsRoundMode);
-    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, 18, rec.spec), gexStsMaskKernelZero);
-    EXPECT_EQ(i16(k16, {3, 2}, 2, 13, 1, 2, rec.spec), gexStsDataType);
-    EXPECT_EQ(i32(nullptr, {3, 2}, 1, 1, 0, rec.spec), gexStsNullPtr);
-    EXPECT_EQ(i32(k32, {-1, 2}, 99, 1, 0, rec.spec), gexStsSize);
-    EXPECT_EQ(i32(k32, {3, 2}, 19, 1, 0, rec.spec), gexStsDataType);
-    EXPECT_EQ(i32(k32, {3, 2}, 1, 5, 0, rec.spec), gexStsChannelFormat);
-    EXPECT_EQ(i32(k32, {3, 2}, 1, 1, 19, rec.spec), gexStsRoundMode);
+    EXPECT_EQ(i16(k16, {3, 0}, 0, 99, 9, 9, rec.rec), gexStsSize);
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 99, 9, 9, rec.rec), gexStsDataType);
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 13, 9, 9, rec.rec), gexStsChannelFormat);   // 32f passes the first type test
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 13 , 1, 16 + 0, rec.rec), gexStsDataType);  // but not with flag 16
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 9, 9, rec.rec), gexStsChannelFormat);
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, 3, rec.rec), gexStsRoundMode);
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, -1, rec.rec), gexStsRoundMode);
+    EXPECT_EQ(i16(k16, {3, 2}, 0, 1, 1, 18, rec.rec), gexStsMaskKernelZero);
+    EXPECT_EQ(i16(k16, {3, 2}, 2, 13, 1, 2, rec.rec), gexStsDataType);
+    EXPECT_EQ(i32(nullptr, {3, 2}, 1, 1, 0, rec.rec), gexStsNullPtr);
+    EXPECT_EQ(i32(k32, {-1, 2}, 99, 1, 0, rec.rec), gexStsSize);
+    EXPECT_EQ(i32(k32, {3, 2}, 19, 1, 0, rec.rec), gexStsDataType);
+    EXPECT_EQ(i32(k32, {3, 2}, 1, 5, 0, rec.rec), gexStsChannelFormat);
+    EXPECT_EQ(i32(k32, {3, 2}, 1, 1, 19, rec.rec), gexStsRoundMode);
 
-    auto* s = gex::spec_at(rec.spec);
+    auto* s = gex::record_at(rec.rec);
     // Integer record: divisor kinds, reversed taps, pairs.
-    ASSERT_EQ(i16(k16, {3, 2}, 8, 1, 1, 1, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {3, 2}, 8, 1, 1, 1, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 0);
     EXPECT_EQ(s->divisorKind, 1);
     EXPECT_EQ(s->shift, 3);
@@ -722,37 +722,37 @@ TEST(FilterBorderStatus, InitChecks) {
     for (int q = 0; q < 6; ++q) EXPECT_EQ(t[q], k16[5 - q]);
     const auto* pr = static_cast<const std::int32_t*>(s->pTapsPairs);
     EXPECT_EQ(pr[0], (k16[5] & 0xffff) | (k16[2] << 16));
-    ASSERT_EQ(i16(k16, {3, 2}, 1, 1, 1, 1, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {3, 2}, 1, 1, 1, 1, rec.rec), gexStsOk);
     EXPECT_EQ(s->divisorKind, 0);
-    ASSERT_EQ(i16(k16, {3, 2}, -4, 7, 1, 0, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {3, 2}, -4, 7, 1, 0, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 1);
     EXPECT_EQ(s->divisorKind, 2);
     EXPECT_EQ(s->invDivisor, -0.25f);
     EXPECT_EQ(s->divisorD, -4.0);
     // Handed to float taps, scaled by 1/divisor: 16u, 16s with 3 channels or a 1-wide kernel.
-    ASSERT_EQ(i16(k16, {3, 2}, 4, 5, 1, 2, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {3, 2}, 4, 5, 1, 2, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 5);
     EXPECT_EQ(static_cast<const float*>(s->pTaps)[0], 1.5f);
-    ASSERT_EQ(i16(k16, {3, 2}, 4, 7, 3, 2, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {3, 2}, 4, 7, 3, 2, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 4);
-    ASSERT_EQ(i16(k16, {1, 6}, 4, 7, 1, 2, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {1, 6}, 4, 7, 1, 2, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 4);
-    ASSERT_EQ(i16(k16, {2, 3}, 4, 7, 1, 2, rec.spec), gexStsOk);
+    ASSERT_EQ(i16(k16, {2, 3}, 4, 7, 1, 2, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 4);
     // Flag 16: kept for 8u and one-channel 16s, a warning elsewhere.
-    EXPECT_EQ(i16(k16, {3, 2}, 3, 1, 3, 17, rec.spec), gexStsOk);
+    EXPECT_EQ(i16(k16, {3, 2}, 3, 1, 3, 17, rec.rec), gexStsOk);
     EXPECT_EQ(s->roundMode, 17);
-    EXPECT_EQ(i16(k16, {3, 2}, 3, 7, 1, 18, rec.spec), gexStsOk);
+    EXPECT_EQ(i16(k16, {3, 2}, 3, 7, 1, 18, rec.rec), gexStsOk);
     EXPECT_EQ(s->roundMode, 18);
-    EXPECT_EQ(i16(k16, {3, 2}, 3, 5, 1, 17, rec.spec), gexStsAccurateModeIgnored);
+    EXPECT_EQ(i16(k16, {3, 2}, 3, 5, 1, 17, rec.rec), gexStsAccurateModeIgnored);
     EXPECT_EQ(s->roundMode, 1);
-    EXPECT_EQ(i16(k16, {3, 2}, 3, 7, 2, 16, rec.spec), gexStsAccurateModeIgnored);
+    EXPECT_EQ(i16(k16, {3, 2}, 3, 7, 2, 16, rec.rec), gexStsAccurateModeIgnored);
     EXPECT_EQ(s->roundMode, 0);
-    EXPECT_EQ(i32(k32, {3, 2}, 13, 1, 18, rec.spec), gexStsAccurateModeIgnored);
+    EXPECT_EQ(i32(k32, {3, 2}, 13, 1, 18, rec.rec), gexStsAccurateModeIgnored);
     EXPECT_EQ(s->kind, 6);
     EXPECT_EQ(s->roundMode, 2);
     EXPECT_EQ(static_cast<const float*>(s->pTaps)[0], 6.0f);
-    ASSERT_EQ(i32(k32, {3, 2}, 1, 3, 0, rec.spec), gexStsOk);
+    ASSERT_EQ(i32(k32, {3, 2}, 1, 3, 0, rec.rec), gexStsOk);
     EXPECT_EQ(s->kind, 3);
 }
 
@@ -760,36 +760,36 @@ TEST(FilterBorderStatus, SetModeRules) {
     const Gex16s k16[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
     const Gex32f k32[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
     Record rec(4096);
-    auto* s = gex::spec_at(rec.spec);
+    auto* s = gex::record_at(rec.rec);
     EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 0, nullptr), gexStsNullPtr);
     // 8u integer: accurate sets flag 16, other hints clear it; offset scaled by the divisor.
-    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex8u, 1, gexRndFin, rec.spec), 0);
-    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 5, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex8u, 1, gexRndFin, rec.rec), 0);
+    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 5, rec.rec), 0);
     EXPECT_EQ(s->roundMode, 18);
     EXPECT_EQ(s->offset, 5);
     EXPECT_EQ(s->offsetScaled, 45.0f);
     EXPECT_EQ(s->hint, 2);
-    ASSERT_EQ(gexiFilterBorderSetMode(static_cast<GexHintAlgorithm>(7), -3, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderSetMode(static_cast<GexHintAlgorithm>(7), -3, rec.rec), 0);
     EXPECT_EQ(s->roundMode, 2);
     EXPECT_EQ(s->offsetScaled, -27.0f);
     // 16s integer, one channel: accurate flag; a non-zero offset is refused and changes nothing.
-    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex16s, 1, gexRndNear, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex16s, 1, gexRndNear, rec.rec), 0);
     std::vector<std::uint8_t> snap(reinterpret_cast<std::uint8_t*>(s), reinterpret_cast<std::uint8_t*>(s) + 128);
-    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 1, rec.spec), gexStsNotSupportedMode);
+    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 1, rec.rec), gexStsNotSupportedMode);
     EXPECT_EQ(0, std::memcmp(snap.data(), s, 128));
-    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 0, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 0, rec.rec), 0);
     EXPECT_EQ(s->roundMode, 17);
     // 16s with two channels: accurate leaves the mode.
-    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex16s, 2, gexRndNear, rec.spec), 0);
-    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 0, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_16s(k16, {3, 3}, 9, gex16s, 2, gexRndNear, rec.rec), 0);
+    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 0, rec.rec), 0);
     EXPECT_EQ(s->roundMode, 1);
     // Float kinds: 32f and 16s refuse offsets; 8u and 16u take them unscaled.
-    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex32f, 1, gexRndNear, rec.spec), 0);
-    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 2, rec.spec), gexStsNotSupportedMode);
-    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex16s, 1, gexRndNear, rec.spec), 0);
-    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 2, rec.spec), gexStsNotSupportedMode);
-    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex16u, 1, gexRndNear, rec.spec), 0);
-    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 7, rec.spec), 0);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex32f, 1, gexRndNear, rec.rec), 0);
+    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 2, rec.rec), gexStsNotSupportedMode);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex16s, 1, gexRndNear, rec.rec), 0);
+    EXPECT_EQ(gexiFilterBorderSetMode(gexAlgHintNone, 2, rec.rec), gexStsNotSupportedMode);
+    ASSERT_EQ(gexiFilterBorderInit_32f(k32, {3, 3}, gex16u, 1, gexRndNear, rec.rec), 0);
+    ASSERT_EQ(gexiFilterBorderSetMode(gexAlgHintAccurate, 7, rec.rec), 0);
     EXPECT_EQ(s->roundMode, 1);
     EXPECT_EQ(s->offsetScaled, 7.0f);
 }
