@@ -256,6 +256,46 @@ GexStatus gexiCopyWrapBorder_32s_C1IR_L(Gex32s* pSrc, Gex64s srcDstStep, GexiSiz
 
 /* ---- General border filter ------------------------------------------------ */
 
+/* Convolution with a caller's rectangular kernel (true convolution: the kernel
+ * is flipped), borders by the border model (modes 1, 3, 6, in-memory flags).
+ * The record holds the prepared kernel; it is opaque to callers and lives in
+ * the caller's block, worked on at its address rounded up to 64 bytes.
+ * Sizes: gexiFilterBorderGetSize gives the record's and the run buffer's bytes,
+ * alignment slack included. Kernel types: gex16s (16-bit taps with an integer
+ * divisor, gexiFilterBorderInit_16s) or gex32f (float taps,
+ * gexiFilterBorderInit_32f). roundMode: 0 toward zero, 1 nearest-even,
+ * 2 nearest ties away; + 16 asks for the exact conversion of integer sums. */
+typedef struct GexiFilterBorderSpec GexiFilterBorderSpec;
+
+GexStatus gexiFilterBorderGetSize(GexiSize kernelSize, GexiSize dstRoiSize, GexDataType dataType, GexDataType kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+GexStatus gexiFilterBorderInit_16s(const Gex16s* pKernel, GexiSize kernelSize, int divisor, GexDataType dataType, int numChannels, GexRoundMode roundMode, GexiFilterBorderSpec* pSpec);
+GexStatus gexiFilterBorderInit_32f(const Gex32f* pKernel, GexiSize kernelSize, GexDataType dataType, int numChannels, GexRoundMode roundMode, GexiFilterBorderSpec* pSpec);
+GexStatus gexiFilterBorderSetMode(GexHintAlgorithm hint, int offset, GexiFilterBorderSpec* pSpec);
+
+/* Run: pBorderValue holds one value per channel and is read in mode 6 only.
+ * Checks: null pSrc, pDst, pSpec, pBuffer (-8); mode 6 with a null
+ * pBorderValue (-8); a record not made by an Init (-17); size (-6); srcStep
+ * below 1 or dstStep below the width in bytes of one channel (-14); border (-225). */
+GexStatus gexiFilterBorder_8u_C1R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex8u borderValue[1], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_8u_C3R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex8u borderValue[3], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_8u_C4R(const Gex8u* pSrc, int srcStep, Gex8u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex8u borderValue[4], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16u_C1R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16u borderValue[1], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16u_C3R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16u borderValue[3], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16u_C4R(const Gex16u* pSrc, int srcStep, Gex16u* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16u borderValue[4], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16s_C1R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16s borderValue[1], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16s_C3R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16s borderValue[3], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_16s_C4R(const Gex16s* pSrc, int srcStep, Gex16s* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex16s borderValue[4], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex32f borderValue[1], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex32f borderValue[3], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFilterBorder_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, GexiSize dstRoiSize, GexiBorderType border, const Gex32f borderValue[4], const GexiFilterBorderSpec* pSpec, Gex8u* pBuffer);
+
+/* Double-precision convolution without border handling: the caller supplies
+ * the neighbourhood. The window of (x, y) starts kernelSize.width-1-anchor.x
+ * columns left and kernelSize.height-1-anchor.y rows above it; taps are used
+ * flipped. pBuffer is not needed (it may be null). */
+GexStatus gexiFilter_64f_C1R(const Gex64f* pSrc, int srcStep, Gex64f* pDst, int dstStep, GexiSize dstRoiSize, const Gex64f* pKernel, GexiSize kernelSize, GexiPoint anchor, Gex8u* pBuffer);
+GexStatus gexiFilterGetBufSize_64f_C1R(GexiSize kernelSize, int roiWidth, int* pSize);
+
 /* (end of general border filter) */
 
 #ifdef __cplusplus
