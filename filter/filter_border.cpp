@@ -87,7 +87,6 @@ namespace {
 template <class TapFn>
 GexStatus init_float(TapFn tap, int kw, int kh, int dataType, int numChannels, int roundMode, void* pSpec) {
     FilterBorderSpec* s = record_at(pSpec);
-    s->ident = 0;
     const std::int64_t n = std::int64_t{kw} * kh;
     auto* base = reinterpret_cast<std::uint8_t*>(s);
     auto* taps = reinterpret_cast<float*>(base + kFilterBorderHead);
@@ -114,7 +113,6 @@ GexStatus init_float(TapFn tap, int kw, int kh, int dataType, int numChannels, i
     s->pTapsBroadcast = nullptr;
     s->tapsFit16 = 0;
     s->numChannels = numChannels;
-    s->ident = kFilterBorderIdent;
     return (roundMode & kAccurateFlag) ? gexStsAccurateModeIgnored : gexStsOk;
 }
 
@@ -190,7 +188,6 @@ GEX_EXPORT(GexStatus, gexiFilterBorderInit_16s,
     }
 
     FilterBorderSpec* s = record_at(pSpec);
-    s->ident = 0;
     const std::int64_t n = std::int64_t{kw} * kh;
     auto* base = reinterpret_cast<std::uint8_t*>(s);
     auto* taps = reinterpret_cast<std::int16_t*>(base + kFilterBorderHead);
@@ -239,14 +236,12 @@ GEX_EXPORT(GexStatus, gexiFilterBorderInit_16s,
     s->pTapsBroadcast = nullptr;
     s->tapsFit16 = fit ? 1 : 0;
     s->numChannels = numChannels;
-    s->ident = kFilterBorderIdent;
     return ignored ? gexStsAccurateModeIgnored : gexStsOk;
 }
 
 GEX_EXPORT(GexStatus, gexiFilterBorderSetMode, (GexHintAlgorithm hint, int offset, GexiFilterBorderSpec* pSpec)) {
     GEX_CHECK(check_null(pSpec));
     FilterBorderSpec* s = record_at(pSpec);
-    if (s->ident != kFilterBorderIdent) return gexStsContextMatch;
     const int kind = s->kind;
     if ((kind == 1 || kind == 4 || kind == 6) && offset != 0) return gexStsNotSupportedMode;
     if (static_cast<int>(hint) == gexAlgHintAccurate) {
@@ -269,7 +264,6 @@ GexStatus filter_border_run(const T* pSrc, int srcStep, T* pDst, int dstStep, Ge
     GEX_CHECK(check_null(pSrc, pDst, pSpec, pBuffer));
     if ((border & kBorderModeMask) == gexBorderConst && pBorderValue == nullptr) return gexStsNullPtr;
     const FilterBorderSpec* s = record_at(pSpec);
-    if (s->ident != kFilterBorderIdent) return gexStsContextMatch;
     GEX_CHECK(check_roi(roi));
     if (srcStep < 1 || dstStep < static_cast<std::int64_t>(roi.width) * static_cast<std::int64_t>(sizeof(T)))
         return gexStsStep;

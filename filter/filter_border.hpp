@@ -10,8 +10,8 @@
 //     multiplied and added in one step of a 16-bit multiply-add;
 //   * pTapsBroadcast is not used by these kernels (null): taps are broadcast
 //     from pTaps as they are read.
-// The identifier goes in last at Init and is tested by every run and by
-// SetMode.
+// The record carries no identifier: the runs and SetMode trust it, as the
+// caller made it with an Init.
 #pragma once
 
 #include <cstddef>
@@ -42,14 +42,12 @@ struct GexiFilterBorderSpec {
     void* pTapsBroadcast;
     std::int32_t tapsFit16;
     std::int32_t numChannels;
-    std::uint32_t ident;
 };
 
 namespace gex {
 
 using FilterBorderSpec = GexiFilterBorderSpec;
 
-inline constexpr std::uint32_t kFilterBorderIdent = 0x46424f52u;  // "FBOR"
 inline constexpr int kFilterBorderHead = 128;
 inline constexpr int kAccurateFlag = 16;
 
