@@ -233,8 +233,8 @@ int main(int argc, char** argv) {
             for (int i = 0; i < 7; ++i) taps[j * 7 + i] = static_cast<Gex16s>(k1[j] * k1[i]);
         int specSize = 0, bufSize = 0;
         GexStatus st = gexiFilterBorderGetSize({7, 7}, src.size(), gex8u, gex16s, 3, &specSize, &bufSize);
-        std::vector<Gex8u> spec(static_cast<std::size_t>(specSize)), buf(static_cast<std::size_t>(bufSize));
-        auto* rec = reinterpret_cast<GexiFilterBorderSpec*>(spec.data());
+        std::vector<Gex8u> record(static_cast<std::size_t>(specSize)), buf(static_cast<std::size_t>(bufSize));
+        auto* rec = reinterpret_cast<GexiFilterBorderSpec*>(record.data());
         if (st >= 0) st = gexiFilterBorderInit_16s(taps, {7, 7}, 4096, gex8u, 3, gexRndNear, rec);
         if (st < 0) {
             std::fprintf(stderr, "filter set-up failed: %d\n", st);
