@@ -50,6 +50,27 @@ struct Form {
             [=](T* p, int ps, GexiSize r) { return NAME##IRSfs(p, ps, r, S); }                                 \
     }
 
+// A constant form (value V per colour channel: the pixel type for logic,
+// Gex32u for shift amounts) and its in-place twin; the C1 form takes the
+// value itself, the others an array.
+template <class T, class V>
+struct ConstForm {
+    std::string name;
+    int ch;
+    bool ac4;
+    std::function<GexStatus(const T*, int, const V*, T*, int, GexiSize)> r;
+    std::function<GexStatus(const V*, T*, int, GexiSize)> ir;
+};
+
+#define CONST_FORM_N(B, D, T, V, L, CH, AC4) \
+    elemtest::ConstForm<T, V> { "gexi" #B "_" #D "_" #L, CH, AC4, gexi##B##_##D##_##L##R, gexi##B##_##D##_##L##IR }
+#define CONST_FORM_1(B, D, T, V)                                                                                \
+    elemtest::ConstForm<T, V> {                                                                                 \
+        "gexi" #B "_" #D "_C1", 1, false,                                                                       \
+            [](const T* s, int ss, const V* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1R(s, ss, v[0], d, ds, r); }, \
+            [](const V* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1IR(v[0], d, ds, r); }         \
+    }
+
 // What the model gives for one element.
 template <class T>
 struct Out {

@@ -39,22 +39,11 @@ struct Bin {
 };
 
 template <class T>
-struct Con {
-    std::string name;
-    int ch;
-    bool ac4;
-    std::function<GexStatus(const T*, int, const T*, T*, int, GexiSize)> r;
-    std::function<GexStatus(const T*, T*, int, GexiSize)> ir;
-};
+using Con = elemtest::ConstForm<T, T>;
 
 #define BIN(B, D, T, L, CH, AC4) Bin<T>{"gexi" #B "_" #D "_" #L, CH, AC4, gexi##B##_##D##_##L##R, gexi##B##_##D##_##L##IR}
-#define CON_N(B, D, T, L, CH, AC4) Con<T>{"gexi" #B "_" #D "_" #L, CH, AC4, gexi##B##_##D##_##L##R, gexi##B##_##D##_##L##IR}
-#define CON_1(B, D, T)                                                                                           \
-    Con<T> {                                                                                                     \
-        "gexi" #B "_" #D "_C1", 1, false,                                                                        \
-            [](const T* s, int ss, const T* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1R(s, ss, v[0], d, ds, r); }, \
-            [](const T* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1IR(v[0], d, ds, r); }           \
-    }
+#define CON_N(B, D, T, L, CH, AC4) CONST_FORM_N(B, D, T, T, L, CH, AC4)
+#define CON_1(B, D, T) CONST_FORM_1(B, D, T, T)
 
 template <class T, Op O>
 std::vector<Bin<T>> bin_forms();

@@ -35,21 +35,10 @@ T model(T x, Gex32u a) {
 }
 
 template <class T>
-struct Form {
-    std::string name;
-    int ch;
-    bool ac4;
-    std::function<GexStatus(const T*, int, const Gex32u*, T*, int, GexiSize)> r;
-    std::function<GexStatus(const Gex32u*, T*, int, GexiSize)> ir;
-};
+using Form = elemtest::ConstForm<T, Gex32u>;
 
-#define SHIFT_N(B, D, T, L, CH, AC4) Form<T>{"gexi" #B "_" #D "_" #L, CH, AC4, gexi##B##_##D##_##L##R, gexi##B##_##D##_##L##IR}
-#define SHIFT_1(B, D, T)                                                                                          \
-    Form<T> {                                                                                                     \
-        "gexi" #B "_" #D "_C1", 1, false,                                                                         \
-            [](const T* s, int ss, const Gex32u* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1R(s, ss, v[0], d, ds, r); }, \
-            [](const Gex32u* v, T* d, int ds, GexiSize r) { return gexi##B##_##D##_C1IR(v[0], d, ds, r); }       \
-    }
+#define SHIFT_N(B, D, T, L, CH, AC4) CONST_FORM_N(B, D, T, Gex32u, L, CH, AC4)
+#define SHIFT_1(B, D, T) CONST_FORM_1(B, D, T, Gex32u)
 
 template <class T, Shift S>
 std::vector<Form<T>> forms();
