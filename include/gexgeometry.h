@@ -8,7 +8,16 @@
 extern "C" {
 #endif
 
-/* Declarations are added here as the families land. */
+/* A resize state record: an opaque block of the size the query returns. */
+typedef struct GexiResizeSpec GexiResizeSpec;
+
+/* ---- Resize: protocol, queries, nearest, linear, cubic, Lanczos ---- */
+
+/* (end of resize protocol) */
+
+/* ---- Resize: super-sampling ---- */
+
+/* (end of super-sampling) */
 
 #ifdef __cplusplus
 }
