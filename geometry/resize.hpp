@@ -109,6 +109,34 @@ inline std::int64_t super_src_extent(const Axis& ax, std::int64_t offset, std::i
     return ((end - 1) / ax.den) * std::int64_t(ax.num) - super_src_offset(ax, offset) + lastTap + 1;
 }
 
+constexpr std::uint64_t round_up32(std::uint64_t n) { return (n + 31) & ~std::uint64_t{31}; }
+
+// Record bytes of a super-sampling record (the 64 of the block's rounding
+// included): both position tables, then both weight tables on 32-byte bounds.
+inline std::uint64_t super_spec_size(std::uint64_t srcW, std::uint64_t srcH, std::uint64_t dstW,
+                                     std::uint64_t dstH) {
+    const std::uint64_t gx = gcd32(std::uint32_t(srcW), std::uint32_t(dstW));
+    const std::uint64_t gy = gcd32(std::uint32_t(srcH), std::uint32_t(dstH));
+    const std::uint64_t numX = srcW / gx, denX = dstW / gx, numY = srcH / gy, denY = dstH / gy;
+    const std::uint64_t nX = denX * super_taps(std::uint32_t(numX), std::uint32_t(denX));
+    const std::uint64_t nY = denY * super_taps(std::uint32_t(numY), std::uint32_t(denY));
+    return (round_up32(nX) + nX + nY + round_up32(nY)) * 4 + kRecordBytes + 64;
+}
+
+// Scratch bytes of a super-sampling run over a tile of width x height and the
+// given channels (the 64 of the buffer's rounding included): the row pointer
+// array, then one float accumulator row per destination row of a period.
+inline std::uint64_t super_buffer_size(const Spec* s, std::int64_t width, std::int64_t height,
+                                       std::uint32_t channels) {
+    const std::uint64_t w = std::uint64_t(width < std::int64_t(s->xAxis.dstLen) ? width : s->xAxis.dstLen);
+    const std::uint64_t h = std::uint64_t(height < std::int64_t(s->yAxis.dstLen) ? height : s->yAxis.dstLen);
+    const std::uint64_t m = std::uint64_t(height) < s->yAxis.den ? std::uint64_t(height) : s->yAxis.den;
+    const float sx = (float(s->xAxis.num) * float(w)) / float(s->xAxis.den) + 3.0f;
+    std::uint64_t span = std::uint64_t(sx);
+    if (span > s->xAxis.srcLen) span = s->xAxis.srcLen;
+    return (std::uint64_t(channels) * 4 * round_up32(span) + 8) * m + round_up32(h * 4) + round_up32(w * 4) + 32 + 64;
+}
+
 // ---- Checks of a run ---------------------------------------------------------
 
 // Which identifier test an entry point makes.
