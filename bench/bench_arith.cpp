@@ -172,27 +172,6 @@ void copy_row(benchmark::State& st, Size s, const Op& op) {
     set_bytes(st, 2LL * rowBytes * s.height);
 }
 
-// The floor of the same traffic: the two sources read and one destination
-// written by the plainest byte loop the compiler vectorises, no checks and
-// no arithmetic to speak of. No implementation of the operation can beat it
-// by much, so it bounds any ratio against a peer that runs near it.
-void floor_row(benchmark::State& st, Size s, const Op& op) {
-    const int rowBytes = s.width * op.elemBytes;
-    Buffer a(rowBytes, s.height), b(rowBytes, s.height), d(rowBytes, s.height, 128);
-    a.randomize(1);
-    b.randomize(2);
-    for (auto _ : st) {
-        for (int y = 0; y < s.height; ++y) {
-            const std::uint8_t* pa = a.row(y);
-            const std::uint8_t* pb = b.row(y);
-            std::uint8_t* pd = d.row(y);
-            for (int x = 0; x < rowBytes; ++x) pd[x] = static_cast<std::uint8_t>(pa[x] + pb[x]);
-        }
-        benchmark::ClobberMemory();
-    }
-    set_bytes(st, 3LL * rowBytes * s.height);
-}
-
 #ifdef GEX_HAVE_OPENCV
 void cv_row(benchmark::State& st, Size s, const Op& op) {
     OneThread one;
@@ -220,7 +199,7 @@ const bool registered = [] {
             const std::string base = std::string(op.name) + "/" + s.name;
             add(base + "/gex", [s, &op](benchmark::State& st) { gex_row(st, s, op); });
             add(base + "/copy", [s, &op](benchmark::State& st) { copy_row(st, s, op); });
-            add(base + "/floor", [s, &op](benchmark::State& st) { floor_row(st, s, op); });
+            add(base + "/floor", [s, &op](benchmark::State& st) { floor_loop(st, s.width * op.elemBytes, s.height); });
 #ifdef GEX_HAVE_OPENCV
             add(base + "/opencv", [s, &op](benchmark::State& st) { cv_row(st, s, op); });
 #endif

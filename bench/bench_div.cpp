@@ -61,24 +61,6 @@ void div_gex(benchmark::State& st, Size s) {
     set_bytes(st, 3LL * s.width * s.height);
 }
 
-// The memory floor of the same traffic: two images read, one written, with a
-// plain byte sum and no arithmetic to speak of.
-void add_floor(benchmark::State& st, Size s) {
-    Buffer a(s.width, s.height), b(s.width, s.height), dst(s.width, s.height);
-    a.randomize(1);
-    b.randomize(2);
-    for (auto _ : st) {
-        for (int y = 0; y < s.height; ++y) {
-            const std::uint8_t* pa = a.row(y);
-            const std::uint8_t* pb = b.row(y);
-            std::uint8_t* pd = dst.row(y);
-            for (int x = 0; x < s.width; ++x) pd[x] = static_cast<std::uint8_t>(pa[x] + pb[x]);
-        }
-        benchmark::ClobberMemory();
-    }
-    set_bytes(st, 3LL * s.width * s.height);
-}
-
 #ifdef GEX_HAVE_OPENCV
 void div_cv(benchmark::State& st, Size s) {
     OneThread one;
@@ -104,7 +86,7 @@ const bool registered = [] {
     for (Size s : {kHD, kSmall}) {
         const std::string sz = s.name;
         add("Div_8u_C1RSfs/" + sz + "/gex", [s](benchmark::State& st) { div_gex(st, s); });
-        add("Div_8u_C1RSfs/" + sz + "/addfloor", [s](benchmark::State& st) { add_floor(st, s); });
+        add("Div_8u_C1RSfs/" + sz + "/addfloor", [s](benchmark::State& st) { floor_loop(st, s.width, s.height); });
 #ifdef GEX_HAVE_OPENCV
         add("Div_8u_C1RSfs/" + sz + "/opencv", [s](benchmark::State& st) { div_cv(st, s); });
 #endif

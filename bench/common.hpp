@@ -54,6 +54,26 @@ struct OneThread {
 };
 #endif
 
+// The memory floor of a two-source operation over rowBytes x height: both
+// sources read and one destination written by the plainest byte loop the
+// compiler vectorises. No implementation of an operation with this traffic
+// can beat it by much, so it bounds any ratio against a peer that runs near it.
+inline void floor_loop(benchmark::State& st, int rowBytes, int height) {
+    Buffer a(rowBytes, height), b(rowBytes, height), d(rowBytes, height, 128);
+    a.randomize(1);
+    b.randomize(2);
+    for (auto _ : st) {
+        for (int y = 0; y < height; ++y) {
+            const std::uint8_t* pa = a.row(y);
+            const std::uint8_t* pb = b.row(y);
+            std::uint8_t* pd = d.row(y);
+            for (int x = 0; x < rowBytes; ++x) pd[x] = static_cast<std::uint8_t>(pa[x] + pb[x]);
+        }
+        benchmark::ClobberMemory();
+    }
+    set_bytes(st, 3LL * rowBytes * height);
+}
+
 struct Size {
     const char* name;
     int width, height;
