@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <type_traits>
 
 #include "data/copy.hpp"
 #include "frame/checks.hpp"
@@ -160,6 +161,11 @@ GexStatus run(const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t dstStep
             const std::int64_t ph = yy % ay.den;
             super::vonly_vec(pSrc, srcStep, (yy / ay.den) * std::int64_t(ay.num) - sy0, ay.pPos + ph * ky,
                              ay.pCoef32f + ph * ky, int(ky), S, row_at(pDst, dstStep, y), w * C);
+        }
+    } else if (std::is_same_v<T, Gex8u> && ax.num == 2 && ax.den == 1 && ay.num == 2 && ay.den == 1) {
+        for (std::int64_t y = 0; y < h; ++y) {
+            const auto* r0 = reinterpret_cast<const Gex8u*>(row_at(pSrc, srcStep, 2 * y));
+            super::box2x2_8u<C>(r0, row_at(r0, srcStep, 1), reinterpret_cast<Gex8u*>(row_at(pDst, dstStep, y)), w);
         }
     } else {
         // Only columns reduce (a single unit row tap), or both.

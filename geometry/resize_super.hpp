@@ -96,5 +96,10 @@ void hplan_run(const HPlan& p, const float* acc, T* dst);
 template <class T>
 void hpass(const HPass& h, T* dst);
 
+// Both axes 2:1 at 8u: destination row from source rows r0 and r1, width
+// pixels of C channels; the same pixels as the tile kernel.
+template <int C>
+void box2x2_8u(const Gex8u* r0, const Gex8u* r1, Gex8u* dst, std::int64_t width);
+
 }  // namespace super
 }  // namespace gex

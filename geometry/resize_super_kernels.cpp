@@ -208,26 +208,102 @@ inline void vsum_block(const T* src, std::int64_t srcStep, std::int64_t rowBase,
     out(a);
 }
 
+// The taps of a destination row that carry weight, as row pointers, at most
+// four at a time. A unit weight takes the same fused step as any other:
+// fma(1, p, acc) is acc + p rounded once, the plain addition bit for bit.
+template <class T>
+struct LiveTaps {
+    static constexpr int kMax = 4;
+    const T* row[kMax];
+    float w[kMax];
+    int n = 0;
+};
+
+// Collects the live taps from j on; returns the tap after the last one taken.
+template <class T>
+int collect(const T* src, std::int64_t srcStep, std::int64_t rowBase, const std::int32_t* pos, const float* w, int k,
+            int j, LiveTaps<T>& t) {
+    t.n = 0;
+    for (; j < k && t.n < LiveTaps<T>::kMax; ++j) {
+        if (w[j] == 0.0f) continue;
+        t.row[t.n] = row_at(src, srcStep, rowBase + pos[j]);
+        t.w[t.n] = w[j];
+        ++t.n;
+    }
+    return j;
+}
+
+inline bool any_live(const float* w, int j, int k) {
+    for (; j < k; ++j)
+        if (w[j] != 0.0f) return true;
+    return false;
+}
+
+// NT live taps over n elements, from zero or (Cont) from accIn, in tap order.
+template <class T, int NT, bool Cont, class Store>
+inline void sum_row(const LiveTaps<T>& t, const float* accIn, std::int64_t n, Store store) {
+    __m512 wv[NT];
+    for (int i = 0; i < NT; ++i) wv[i] = _mm512_set1_ps(t.w[i]);
+    std::int64_t e = 0;
+    for (; e + 64 <= n; e += 64) {
+        __m512 a[4];
+        for (int u = 0; u < 4; ++u) a[u] = Cont ? _mm512_loadu_ps(accIn + e + 16 * u) : _mm512_setzero_ps();
+        for (int i = 0; i < NT; ++i)
+            for (int u = 0; u < 4; ++u) a[u] = _mm512_fmadd_ps(wv[i], load16(t.row[i] + e + 16 * u), a[u]);
+        for (int u = 0; u < 4; ++u) store(e + 16 * u, __mmask16(0xffff), a[u]);
+    }
+    for (; e < n; e += 16) {
+        const __mmask16 m = simd::tail_mask16(n - e);
+        __m512 a = Cont ? _mm512_maskz_loadu_ps(m, accIn + e) : _mm512_setzero_ps();
+        for (int i = 0; i < NT; ++i) a = _mm512_fmadd_ps(wv[i], load16(t.row[i] + e, m), a);
+        store(e, m, a);
+    }
+}
+
+template <class T, bool Cont, class Store>
+void sum_taps(const LiveTaps<T>& t, const float* accIn, std::int64_t n, Store store) {
+    switch (t.n) {
+    case 1: sum_row<T, 1, Cont>(t, accIn, n, store); break;
+    case 2: sum_row<T, 2, Cont>(t, accIn, n, store); break;
+    case 3: sum_row<T, 3, Cont>(t, accIn, n, store); break;
+    default: sum_row<T, 4, Cont>(t, accIn, n, store); break;
+    }
+}
+
 }  // namespace
 
 template <class T>
 void vsum_vec(const T* src, std::int64_t srcStep, std::int64_t rowBase, const std::int32_t* pos, const float* w,
               int k, float* acc, std::int64_t n) {
-    std::int64_t e = 0;
-    for (; e + 64 <= n; e += 64)
-        vsum_block<T, 4>(src, srcStep, rowBase, pos, w, k, e, n, [&](const __m512* a) {
-            for (int u = 0; u < 4; ++u) _mm512_storeu_ps(acc + e + 16 * u, a[u]);
-        });
-    for (; e < n; e += 16)
-        vsum_block<T, 1>(src, srcStep, rowBase, pos, w, k, e, n, [&](const __m512* a) {
-            _mm512_mask_storeu_ps(acc + e, simd::tail_mask16(n - e), a[0]);
-        });
+    const auto st = [acc](std::int64_t e, __mmask16 m, __m512 a) { _mm512_mask_storeu_ps(acc + e, m, a); };
+    LiveTaps<T> t;
+    int j = collect(src, srcStep, rowBase, pos, w, k, 0, t);
+    if (t.n == 0) {
+        for (std::int64_t e = 0; e < n; e += 16)
+            _mm512_mask_storeu_ps(acc + e, simd::tail_mask16(n - e), _mm512_setzero_ps());
+        return;
+    }
+    sum_taps<T, false>(t, nullptr, n, st);
+    // Rows with more than four live taps go on from the stored sums.
+    while (j < k) {
+        j = collect(src, srcStep, rowBase, pos, w, k, j, t);
+        if (t.n == 0) break;
+        sum_taps<T, true>(t, acc, n, st);
+    }
 }
 
 template <class T>
 void vonly_vec(const T* src, std::int64_t srcStep, std::int64_t rowBase, const std::int32_t* pos, const float* w,
                int k, float S, T* dst, std::int64_t n) {
     const __m512 vs = _mm512_set1_ps(S);
+    LiveTaps<T> t;
+    const int j = collect(src, srcStep, rowBase, pos, w, k, 0, t);
+    if (t.n > 0 && !any_live(w, j, k)) {
+        sum_taps<T, false>(t, nullptr, n,
+                           [&](std::int64_t e, __mmask16 m, __m512 a) { store16(dst + e, m, _mm512_mul_ps(vs, a)); });
+        return;
+    }
+    // Many live taps (or none): the sum per group of vectors, taps inside.
     std::int64_t e = 0;
     for (; e + 64 <= n; e += 64)
         vsum_block<T, 4>(src, srcStep, rowBase, pos, w, k, e, n, [&](const __m512* a) {
@@ -567,6 +643,53 @@ void hpass(const HPass& h, T* dst) {
     hplan_init(p, h);
     hplan_run(p, h.acc, dst);
 }
+
+// ---- both axes 2:1, 8u ------------------------------------------------------------------
+//
+// Here every sum is of whole numbers below 2^24, so the float additions of
+// the tile kernel are exact and S = (1/2) / 2 is exact too: the result is the
+// sum t of the four pixels over 4 with ties to even, (t + 1 + ((t >> 2) & 1)) >> 2,
+// computed in 16-bit lanes. The partner of byte b in a row is b + C, so the
+// rows are also read C bytes further on instead of being shuffled; even and
+// odd bytes go to separate 16-bit lanes and one permute picks the outputs.
+template <int C>
+void box2x2_8u(const Gex8u* r0, const Gex8u* r1, Gex8u* dst, std::int64_t width) {
+    constexpr int SB = 64 - 64 % (2 * C);  // source bytes per step
+    constexpr int OB = SB / 2;              // outputs per step
+    alignas(64) std::int16_t idx[32];
+    for (int o = 0; o < 32; ++o) {
+        const int b = o < OB ? 2 * C * (o / C) + o % C : 0;
+        idx[o] = std::int16_t((b & 1 ? 32 : 0) + (b >> 1));
+    }
+    const __m512i vidx = _mm512_load_si512(idx);
+    const __m512i lo = _mm512_set1_epi16(0x00ff), one = _mm512_set1_epi16(1);
+    const std::int64_t nIn = 2 * C * width, nOut = C * width;
+    auto ld = [](const Gex8u* p, std::int64_t avail) {
+        return avail >= 64 ? _mm512_loadu_si512(p)
+                           : _mm512_maskz_loadu_epi8(simd::tail_mask64(avail < 0 ? 0 : avail), p);
+    };
+    for (std::int64_t x = 0, o = 0; o < nOut; x += SB, o += OB) {
+        const std::int64_t rem = nIn - x;
+        const __m512i v0 = ld(r0 + x, rem), v1 = ld(r1 + x, rem);
+        const __m512i w0 = ld(r0 + x + C, rem - C), w1 = ld(r1 + x + C, rem - C);
+        const __m512i ev = _mm512_add_epi16(
+            _mm512_add_epi16(_mm512_and_si512(v0, lo), _mm512_and_si512(v1, lo)),
+            _mm512_add_epi16(_mm512_and_si512(w0, lo), _mm512_and_si512(w1, lo)));
+        const __m512i od = _mm512_add_epi16(_mm512_add_epi16(_mm512_srli_epi16(v0, 8), _mm512_srli_epi16(v1, 8)),
+                                            _mm512_add_epi16(_mm512_srli_epi16(w0, 8), _mm512_srli_epi16(w1, 8)));
+        auto rnd = [&](__m512i t) {
+            const __m512i odd = _mm512_and_si512(_mm512_srli_epi16(t, 2), one);
+            return _mm512_srli_epi16(_mm512_add_epi16(t, _mm512_add_epi16(odd, one)), 2);
+        };
+        const __m512i res = _mm512_permutex2var_epi16(rnd(ev), vidx, rnd(od));
+        const std::int64_t left = nOut - o;
+        _mm512_mask_cvtepi16_storeu_epi8(dst + o, simd::tail_mask32(left < OB ? left : OB), res);
+    }
+}
+
+template void box2x2_8u<1>(const Gex8u*, const Gex8u*, Gex8u*, std::int64_t);
+template void box2x2_8u<3>(const Gex8u*, const Gex8u*, Gex8u*, std::int64_t);
+template void box2x2_8u<4>(const Gex8u*, const Gex8u*, Gex8u*, std::int64_t);
 
 #define GEX_SUPER_INSTANTIATE(T)                                                                                 \
     template void vsum_ref<T>(const T*, std::int64_t, std::int64_t, const std::int32_t*, const float*, int, float*, \

@@ -478,10 +478,34 @@ TEST(ResizeSuperKernels, HorizontalVectorsEqualScalar) {
     horizontal_kernels_match<Gex16s>(3);
 }
 
+// Both axes 2:1 at 8u: the integer kernel against the float sums of the
+// scalar twins, on rows that end right before an inaccessible page.
+TEST(ResizeSuperKernels, Box2x2EqualsTheFloatSums) {
+    std::mt19937 rng(13);
+    const std::int32_t pos[] = {0, 1};
+    const float w[] = {1.0f, 1.0f};
+    for (int C : {1, 3, 4})
+        for (int width : {1, 2, 3, 5, 7, 15, 31, 33, 63, 64, 65, 127, 129, 200}) {
+            Guarded<Gex8u> src(2 * width, 2, C, Layout{0, 40, 1, false, true});
+            src.fill_random(rng);
+            if (width == 7) src.fill(255);
+            const std::int64_t n = 2 * std::int64_t(width) * C;
+            std::vector<float> acc(static_cast<std::size_t>(n));
+            gex::super::vsum_ref(src.ptr(), src.step(), 0, pos, w, 2, acc.data(), n);
+            const gex::super::HPass h{acc.data(), n, 0, width, 0, pos, w, 2, 1, 2, C, 0.25f};
+            std::vector<Gex8u> want(std::size_t(width) * C + 8), got(want.size());
+            gex::super::hpass_ref(h, want.data());
+            if (C == 1) gex::super::box2x2_8u<1>(src.row(0), src.row(1), got.data(), width);
+            if (C == 3) gex::super::box2x2_8u<3>(src.row(0), src.row(1), got.data(), width);
+            if (C == 4) gex::super::box2x2_8u<4>(src.row(0), src.row(1), got.data(), width);
+            EXPECT_EQ(want, got) << "C" << C << " width " << width;
+        }
+}
+
 template <class T>
 void vertical_kernels_match() {
     std::mt19937 rng(9);
-    const int rows = 6;
+    const int rows = 7;
     for (int n : {1, 2, 3, 5, 7, 15, 31, 33, 63, 64, 65, 127, 129, 200}) {
         std::vector<T> img(std::size_t(n + 3) * rows);
         for (auto& v : img) v = Guarded<T>::random_value(rng);
@@ -490,17 +514,21 @@ void vertical_kernels_match() {
             img[std::size_t(n + 3) * 2] = std::numeric_limits<float>::infinity();
             img[std::size_t(n + 3) * 4 + n - 1] = std::numeric_limits<float>::quiet_NaN();
         }
-        const std::int32_t pos[] = {0, 1, 2, 3, 4, 4};
-        const float w[] = {1.0f, 0.3f, 0.0f, 1.0f, 0.0f, 0.6f};
+        // Four live taps, then seven (past one group of taps).
+        const std::int32_t pos[] = {0, 1, 2, 3, 4, 4, 5, 5, 2};
+        const float w[2][9] = {{1.0f, 0.3f, 0.0f, 1.0f, 0.0f, 0.6f, 0.0f, 0.0f, 0.0f},
+                               {0.2f, 1.0f, 0.0f, 0.7f, 1.0f, 0.6f, 0.0f, 0.9f, 0.1f}};
         const std::int64_t step = std::int64_t(n + 3) * sizeof(T);
-        std::vector<float> a(n), b(n);
-        gex::super::vsum_ref(img.data(), step, 0, pos, w, 6, a.data(), n);
-        gex::super::vsum_vec(img.data(), step, 0, pos, w, 6, b.data(), n);
-        EXPECT_TRUE(gextest::same_bits(a, b)) << n;
-        std::vector<T> c(n), d(n);
-        gex::super::vonly_ref(img.data(), step, 0, pos, w, 6, 0.37f, c.data(), n);
-        gex::super::vonly_vec(img.data(), step, 0, pos, w, 6, 0.37f, d.data(), n);
-        EXPECT_TRUE(gextest::same_bits(c, d)) << n;
+        for (const float* wt : w) {
+            std::vector<float> a(n), b(n);
+            gex::super::vsum_ref(img.data(), step, 0, pos, wt, 9, a.data(), n);
+            gex::super::vsum_vec(img.data(), step, 0, pos, wt, 9, b.data(), n);
+            EXPECT_TRUE(gextest::same_bits(a, b)) << n;
+            std::vector<T> c(n), d(n);
+            gex::super::vonly_ref(img.data(), step, 0, pos, wt, 9, 0.37f, c.data(), n);
+            gex::super::vonly_vec(img.data(), step, 0, pos, wt, 9, 0.37f, d.data(), n);
+            EXPECT_TRUE(gextest::same_bits(c, d)) << n;
+        }
     }
 }
 
