@@ -1,5 +1,6 @@
-// Super-sampling resize 1920x1080 -> 960x540 (8u C3, 32f C1) against OpenCV's
-// area resize with one thread. Both compute box averages; they round
+// Super-sampling resize 1920x1080 -> 960x540 (8u C3, 32f C1; 8u C3 also to
+// 1280x720 and 1440x810) against OpenCV's area resize with one thread. Both
+// compute box averages; they round
 // differently (OpenCV's 8u 2:1 path rounds ties up in integers, ours rounds a
 // float sum to even), so the rows report the largest absolute difference of
 // the two outputs ("maxdiff") and, as "mismatch", how many elements differ by
@@ -21,7 +22,8 @@ namespace {
 
 using namespace gexbench;
 
-constexpr int kW = 1920, kH = 1080, kDW = 960, kDH = 540;
+constexpr int kW = 1920, kH = 1080;
+int kDW = 960, kDH = 540;  // the 8u C3 rows also run 3:2 and 4:3
 
 // The Init and the scratch of a whole-image run.
 struct Setup {
@@ -74,7 +76,9 @@ void resize_cv_into(Buffer& src, Buffer& dst, int type) {
 }
 #endif
 
-void super_8u_c3(benchmark::State& st, bool peer) {
+void super_8u_c3(benchmark::State& st, bool peer, int dw = 960, int dh = 540) {
+    kDW = dw;
+    kDH = dh;
     Buffer src(kW * 3, kH, 64), dst(kDW * 3, kDH, 64), other(kDW * 3, kDH, 64);
     src.randomize();
     Setup s(gexiResizeSuperInit_8u, 3);
@@ -104,6 +108,8 @@ void super_8u_c3(benchmark::State& st, bool peer) {
 }
 
 void super_32f_c1(benchmark::State& st, bool peer) {
+    kDW = 960;
+    kDH = 540;
     Buffer src(kW * 4, kH, 64), dst(kDW * 4, kDH, 64), other(kDW * 4, kDH, 64);
     fill_float(src);
     Setup s(gexiResizeSuperInit_32f, 1);
@@ -142,8 +148,12 @@ const bool registered = [] {
     const std::string c = "/1080p-2:1";
     add("ResizeSuper_8u_C3R" + c + "/gex", [](benchmark::State& st) { super_8u_c3(st, false); });
     add("ResizeSuper_32f_C1R" + c + "/gex", [](benchmark::State& st) { super_32f_c1(st, false); });
+    add("ResizeSuper_8u_C3R/1080p-3:2/gex", [](benchmark::State& st) { super_8u_c3(st, false, 1280, 720); });
+    add("ResizeSuper_8u_C3R/1080p-4:3/gex", [](benchmark::State& st) { super_8u_c3(st, false, 1440, 810); });
 #ifdef GEX_HAVE_OPENCV
     add("ResizeSuper_8u_C3R" + c + "/opencv", [](benchmark::State& st) { super_8u_c3(st, true); });
+    add("ResizeSuper_8u_C3R/1080p-3:2/opencv", [](benchmark::State& st) { super_8u_c3(st, true, 1280, 720); });
+    add("ResizeSuper_8u_C3R/1080p-4:3/opencv", [](benchmark::State& st) { super_8u_c3(st, true, 1440, 810); });
     add("ResizeSuper_32f_C1R" + c + "/opencv", [](benchmark::State& st) { super_32f_c1(st, true); });
 #endif
     return true;

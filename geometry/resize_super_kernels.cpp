@@ -627,7 +627,9 @@ void hplan_run(const HPlan& p, const float* acc, T* dst) {
     if (p.mode == HPlan::kGather) {
         HPass h = p.h;
         h.acc = acc;
-        hpass_gather(h, dst);
+        // Gather indices are 32-bit: rows of 2^31 elements and more go scalar.
+        if (h.accLen > 0x7fffffff) hpass_ref(h, dst);
+        else hpass_gather(h, dst);
         return;
     }
     switch (p.h.channels) {

@@ -8,6 +8,7 @@
 // * Vector kernels against their scalar twins, bit for bit.
 // * Statuses of Init and run in order, nothing written on failure.
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 
 #include <algorithm>
 #include <cmath>
@@ -355,6 +356,46 @@ TEST(ResizeSuperRun, ConstantImagesStayConstant) {
     constants_stay<Gex8u, 3>();
     constants_stay<Gex16u, 1>();
     constants_stay<Gex16s, 4>();
+}
+
+// A step beyond 31 bits in an _L run of equal extents: the copy goes row by
+// row. Only the two touched pages of the reservation are ever used.
+TEST(ResizeSuperRun, LargeStepCopy) {
+    const std::int64_t step = 0x80000040LL;
+    const std::size_t bytes = std::size_t(step) + 4096;
+    void* m = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (m == MAP_FAILED) GTEST_SKIP() << "no room for a 2 GiB reservation";
+    auto* base = static_cast<Gex16u*>(m);
+    Gex16u* row1 = reinterpret_cast<Gex16u*>(static_cast<unsigned char*>(m) + step);
+    for (int i = 0; i < 5 * 3; ++i) {
+        base[i] = Gex16u(1000 + i);
+        row1[i] = Gex16u(2000 + i);
+    }
+    Record rec(5, 2, 5, 2);
+    ASSERT_EQ(gexiResizeSuperInit_L({5, 2}, {5, 2}, gex16u, rec.p), gexStsOk);
+    Scratch buf(rec.spec(), 5, 2, 3);
+    std::vector<Gex16u> out(5 * 3 * 2, 0);
+    EXPECT_EQ(gexiResizeSuper_16u_C3R_L(base, step, out.data(), 5 * 3 * 2, GexiPointL{0, 0}, GexiSizeL{5, 2}, rec.p,
+                                        buf.ptr()),
+              gexStsOk);
+    EXPECT_TRUE(std::equal(base, base + 15, out.begin()));
+    EXPECT_TRUE(std::equal(row1, row1 + 15, out.begin() + 15));
+    munmap(m, bytes);
+}
+
+// Which ratios have kernels of their own: 7:6 and 1000:999 do not, 8:1 and
+// 9:4 leave three channels to the gathering kernel.
+TEST(ResizeSuperKernels, KernelChoice) {
+    using gex::super::HKind;
+    using gex::super::hkind;
+    EXPECT_EQ(hkind(1, 2, 6, 7), HKind::Generic);
+    EXPECT_EQ(hkind(3, 2, 999, 1000), HKind::Generic);
+    EXPECT_EQ(hkind(3, 8, 1, 8), HKind::Generic);
+    EXPECT_EQ(hkind(4, 8, 1, 8), HKind::Generic);
+    EXPECT_EQ(hkind(3, 3, 4, 9), HKind::Generic);
+    EXPECT_EQ(hkind(4, 3, 4, 9), HKind::Cycle);
+    EXPECT_EQ(hkind(3, 2, 1, 2), HKind::Unit);
+    EXPECT_EQ(hkind(1, 2, 2, 3), HKind::Cycle);
 }
 
 // ---- tiles ---------------------------------------------------------------------------------
