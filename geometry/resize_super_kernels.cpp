@@ -670,7 +670,7 @@ void box2x2_8u(const Gex8u* r0, const Gex8u* r1, Gex8u* dst, std::int64_t width)
         return avail >= 64 ? _mm512_loadu_si512(p)
                            : _mm512_maskz_loadu_epi8(simd::tail_mask64(avail < 0 ? 0 : avail), p);
     };
-    for (std::int64_t x = 0, o = 0; o < nOut; x += SB, o += OB) {
+    auto step = [&](std::int64_t x) {
         const std::int64_t rem = nIn - x;
         const __m512i v0 = ld(r0 + x, rem), v1 = ld(r1 + x, rem);
         const __m512i w0 = ld(r0 + x + C, rem - C), w1 = ld(r1 + x + C, rem - C);
@@ -683,9 +683,22 @@ void box2x2_8u(const Gex8u* r0, const Gex8u* r1, Gex8u* dst, std::int64_t width)
             const __m512i odd = _mm512_and_si512(_mm512_srli_epi16(t, 2), one);
             return _mm512_srli_epi16(_mm512_add_epi16(t, _mm512_add_epi16(odd, one)), 2);
         };
-        const __m512i res = _mm512_permutex2var_epi16(rnd(ev), vidx, rnd(od));
+        return _mm512_permutex2var_epi16(rnd(ev), vidx, rnd(od));
+    };
+    std::int64_t x = 0, o = 0;
+    // Two steps at a time while both read whole vectors: one pack to bytes
+    // (it works per 128-bit lane, so the quadwords are put back in order).
+    const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
+    const __mmask32 m = simd::tail_mask32(OB);
+    for (; x + SB + C + 64 <= nIn; x += 2 * SB, o += 2 * OB) {
+        const __m512i a = step(x), b = step(x + SB);
+        const __m512i bytes = _mm512_permutexvar_epi64(order, _mm512_packus_epi16(a, b));
+        _mm256_mask_storeu_epi8(dst + o, m, _mm512_castsi512_si256(bytes));
+        _mm256_mask_storeu_epi8(dst + o + OB, m, _mm512_extracti64x4_epi64(bytes, 1));
+    }
+    for (; o < nOut; x += SB, o += OB) {
         const std::int64_t left = nOut - o;
-        _mm512_mask_cvtepi16_storeu_epi8(dst + o, simd::tail_mask32(left < OB ? left : OB), res);
+        _mm512_mask_cvtepi16_storeu_epi8(dst + o, simd::tail_mask32(left < OB ? left : OB), step(x));
     }
 }
 
