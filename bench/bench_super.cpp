@@ -27,12 +27,12 @@ int kDW = 960, kDH = 540;  // the 8u C3 rows also run 3:2 and 4:3
 
 // The Init and the scratch of a whole-image run.
 struct Setup {
-    std::vector<unsigned char> spec, buf;
+    std::vector<unsigned char> record, buf;
     GexiResizeSpec* p;
     template <class InitFn>
     Setup(InitFn init, int channels) {
-        spec.resize(gex::resize::super_spec_size(kW, kH, kDW, kDH));
-        p = reinterpret_cast<GexiResizeSpec*>(spec.data());
+        record.resize(gex::resize::super_spec_size(kW, kH, kDW, kDH));
+        p = reinterpret_cast<GexiResizeSpec*>(record.data());
         init({kW, kH}, {kDW, kDH}, p);
         buf.resize(gex::resize::super_buffer_size(gex::resize::spec_at(static_cast<const void*>(p)), kDW, kDH,
                                                   channels));
