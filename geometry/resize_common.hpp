@@ -216,24 +216,28 @@ inline T band_lin(T a, T b, Acc<T> w) {
     else return store_float<T>(v);
 }
 
-// Weights of a pixel's taps: nt of them at `coef`.
+// One cubic or Lanczos band pixel: nt x nt taps with their indices clamped,
+// the weights of the pixel's column (cx) and row (cy). Each row is summed in
+// the order (w1 p1 + w3 p3 [+ w5 p5]) + (w0 p0 + w2 p2 [+ w4 p4]) and the rows
+// are combined as in the interior.
 template <class T, int C>
 void band_pixel_taps(const Tile<T>& t, int nt, std::int64_t px0, std::int64_t py0, const float* cx, const float* cy,
                      const Clamp& cX, const Clamp& cY, T* out) {
-    // Rows summed per tap in the order (w1 p1 + w3 p3 [+ w5 p5]) + (w0 p0 + w2 p2 [+ w4 p4]),
-    // then combined vertically as in the interior.
+    const T* rp[6];
+    std::int64_t xs[6];
+    for (int k = 0; k < nt; ++k) {
+        rp[k] = row_at(t.src, t.srcStep, cY(py0 + k));
+        xs[k] = cX(px0 + k) * C;
+    }
     for (int c = 0; c < C; ++c) {
         float rows[6];
         for (int ky = 0; ky < nt; ++ky) {
-            const std::int64_t yy = cY(py0 + ky);
-            const T* r = row_at(t.src, t.srcStep, yy);
-            float p[6];
-            for (int kx = 0; kx < nt; ++kx) p[kx] = float(r[cX(px0 + kx) * C + c]);
-            float odd = cx[1] * p[1] + cx[3] * p[3];
-            float even = cx[0] * p[0] + cx[2] * p[2];
+            const T* r = rp[ky] + c;
+            float odd = cx[1] * float(r[xs[1]]) + cx[3] * float(r[xs[3]]);
+            float even = cx[0] * float(r[xs[0]]) + cx[2] * float(r[xs[2]]);
             if (nt == 6) {
-                odd = odd + cx[5] * p[5];
-                even = even + cx[4] * p[4];
+                odd = odd + cx[5] * float(r[xs[5]]);
+                even = even + cx[4] * float(r[xs[4]]);
             }
             rows[ky] = odd + even;
         }

@@ -24,6 +24,7 @@
 // draw a false "may be used uninitialized" from it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#pragma GCC diagnostic ignored "-Wuninitialized"
 
 namespace gex::resize {
 
@@ -97,6 +98,44 @@ inline void gather4(const T* src, const std::int32_t* x, int npix, __m512* P) {
     }
     transpose4(L[0], L[1], L[2], L[3], P, first);
     if constexpr (NT == 6) transpose4(M[0], M[1], M[2], M[3], P + 4, 2);
+}
+
+// 8u C3/C4: each output pixel's tap bytes go in a 128-bit lane of its own
+// (lane i = pixel i); one byte shuffle per tap then spreads that tap's
+// channels into zero-extended 32-bit lanes, pixel x 4 + channel, which is
+// already the layout of the sums: no transposition.
+template <int C>
+inline __m512i tap_spread(int k) {
+    alignas(16) std::int8_t b[16];
+    for (int c = 0; c < 4; ++c) {
+        b[4 * c] = c < C ? std::int8_t(k * C + c) : std::int8_t(-1);
+        b[4 * c + 1] = b[4 * c + 2] = b[4 * c + 3] = -1;
+    }
+    return _mm512_broadcast_i32x4(_mm_load_si128(reinterpret_cast<const __m128i*>(b)));
+}
+
+template <int C, int NT>
+inline void gather4_8u(const std::uint8_t* src, const std::int32_t* x, int npix, const __m512i* spread, __m512* P) {
+    constexpr int half = NT / 2 - 1;
+    constexpr __mmask16 four = __mmask16((1u << (4 * C)) - 1);
+    auto lanes4 = [&](int tapOff) {
+        auto pix = [&](int i) {
+            return i < npix ? _mm_maskz_loadu_epi8(four, src + (std::int64_t(x[i]) - half + tapOff) * C)
+                            : _mm_setzero_si128();
+        };
+        __m512i r = _mm512_castsi128_si512(pix(0));
+        r = _mm512_inserti32x4(r, pix(1), 1);
+        r = _mm512_inserti32x4(r, pix(2), 2);
+        return _mm512_inserti32x4(r, pix(3), 3);
+    };
+    const __m512i r = lanes4(0);
+    for (int k = 0; k < 4; ++k) P[k] = _mm512_cvtepi32_ps(_mm512_shuffle_epi8(r, spread[k]));
+    if constexpr (NT == 6) {
+        // Taps 2..5 of each pixel: taps 4 and 5 sit where taps 2 and 3 sat.
+        const __m512i r2 = lanes4(2);
+        P[4] = _mm512_cvtepi32_ps(_mm512_shuffle_epi8(r2, spread[2]));
+        P[5] = _mm512_cvtepi32_ps(_mm512_shuffle_epi8(r2, spread[3]));
+    }
 }
 
 // The horizontal sum of the scalar kernel: four taps in two pairs, six in order.
@@ -195,10 +234,14 @@ struct TapsVector {
             // Weight lanes pixel x 4 + channel: weight k of pixel i.
             __m512i wIdx[NT];
             for (int k = 0; k < NT; ++k) wIdx[k] = vec::lanes([&](int l) { return (l / 4) * NT + k; });
+            __m512i spread[4];
+            if constexpr (std::is_same_v<T, std::uint8_t>)
+                for (int k = 0; k < 4; ++k) spread[k] = vec::tap_spread<C>(k);
             for (std::int64_t j = 0; j < n; j += 4) {
                 const int npix = n - j < 4 ? int(n - j) : 4;
                 __m512 P[NT], W[NT];
-                vec::gather4<T, C, NT>(src, xTab + j, npix, P);
+                if constexpr (std::is_same_v<T, std::uint8_t>) vec::gather4_8u<C, NT>(src, xTab + j, npix, spread, P);
+                else vec::gather4<T, C, NT>(src, xTab + j, npix, P);
                 const float* wr = w + j * NT;
                 if constexpr (NT == 4) {
                     const __m512 row = _mm512_maskz_loadu_ps(vec::m16(npix * 4), wr);
@@ -307,37 +350,72 @@ struct LinearQ14Vector {
                 _mm256_mask_storeu_epi16(out + j, m, _mm512_cvtsepi32_epi16(q6(p0, p1, w0, w1)));
             }
         } else {
-            const __m512i b0 = vec::lanes([](int l) { return (l / 4) * 2; });
-            const __m512i b1 = vec::lanes([](int l) { return (l / 4) * 2 + 1; });
-            for (std::int64_t j = 0; j < n; j += 4) {
-                const int npix = n - j < 4 ? int(n - j) : 4;
-                __m512i L[4];
-                for (int i = 0; i < 4; ++i)
-                    L[i] = i < npix ? vec::taps_8u<C>(src + std::int64_t(xTab[j + i]) * C, 2) : _mm512_setzero_si512();
-                __m512 P[2];
-                vec::transpose4(_mm512_castsi512_ps(L[0]), _mm512_castsi512_ps(L[1]), _mm512_castsi512_ps(L[2]),
-                                _mm512_castsi512_ps(L[3]), P, 2);
-                const __m512i ww = _mm512_cvtepu16_epi32(_mm256_maskz_loadu_epi16(__mmask16((1u << (2 * npix)) - 1), w + 2 * j));
-                const __m512i w0 = _mm512_permutexvar_epi32(b0, ww), w1 = _mm512_permutexvar_epi32(b1, ww);
-                __m512i t = q6(_mm512_castps_si512(P[0]), _mm512_castps_si512(P[1]), w0, w1);
-                if constexpr (C == 3) t = _mm512_maskz_compress_epi32(0x7777, t);
-                _mm256_mask_storeu_epi16(out + j * C, vec::m16(npix * C), _mm512_cvtsepi32_epi16(t));
+            // One pixel per 128-bit lane: its two taps' channels become 16-bit
+            // pairs (tap 0, tap 1) per channel, so one multiply-add per lane
+            // pair with the pixel's (16384 - w, w) gives p0 (16384 - w) + p1 w.
+            // Eight pixels a step: two such vectors, packed to 16 bits and put
+            // in pixel order by one word permutation.
+            const __m512i spread =
+                C == 3 ? _mm512_broadcast_i32x4(_mm_setr_epi8(0, -1, 3, -1, 1, -1, 4, -1, 2, -1, 5, -1, -1, -1, -1, -1))
+                       : _mm512_broadcast_i32x4(_mm_setr_epi8(0, -1, 4, -1, 1, -1, 5, -1, 2, -1, 6, -1, 3, -1, 7, -1));
+            const __m512i bcast = vec::lanes([](int l) { return l / 4; });
+            alignas(64) std::int16_t order[32];
+            for (int o = 0; o < 32; ++o) {
+                const int p = o / C, c = o % C;
+                order[o] = std::int16_t(p < 8 ? (p % 4) * 8 + (p / 4) * 4 + c : 0);
+            }
+            const __m512i perm = _mm512_load_si512(order);
+            const __mmask16 pixMask = __mmask16((1u << (2 * C)) - 1);
+            // A 16-byte read at a pixel is safe while it ends within the row's
+            // last tap; the rest go through reads of exactly the tap bytes.
+            const std::int64_t safeLast = (std::int64_t(xTab[n - 1]) + 2) * C - 16;
+            auto half4 = [&](std::int64_t j0, int npix) {
+                __m512i r;
+                if (npix == 4 && std::int64_t(xTab[j0 + 3]) * C <= safeLast) {
+                    r = _mm512_castsi128_si512(_mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0]) * C)));
+                    r = _mm512_mask_broadcast_i32x4(r, 0x00F0, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 1]) * C)));
+                    r = _mm512_mask_broadcast_i32x4(r, 0x0F00, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 2]) * C)));
+                    r = _mm512_mask_broadcast_i32x4(r, 0xF000, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 3]) * C)));
+                } else {
+                    auto pix = [&](int i) {
+                        return i < npix ? _mm_maskz_loadu_epi8(pixMask, src + std::int64_t(xTab[j0 + i]) * C)
+                                        : _mm_setzero_si128();
+                    };
+                    r = _mm512_castsi128_si512(pix(0));
+                    r = _mm512_inserti32x4(r, pix(1), 1);
+                    r = _mm512_inserti32x4(r, pix(2), 2);
+                    r = _mm512_inserti32x4(r, pix(3), 3);
+                }
+                r = _mm512_shuffle_epi8(r, spread);
+                const __m512i ww =
+                    _mm512_permutexvar_epi32(bcast, _mm512_maskz_loadu_epi32(vec::m16(npix), w + 2 * j0));
+                return _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(r, ww), _mm512_set1_epi32(128)), 8);
+            };
+            for (std::int64_t j = 0; j < n; j += 8) {
+                const int npix = n - j < 8 ? int(n - j) : 8;
+                const __m512i a = half4(j, npix < 4 ? npix : 4);
+                const __m512i b = npix > 4 ? half4(j + 4, npix - 4) : _mm512_setzero_si512();
+                const __m512i words = _mm512_permutexvar_epi16(perm, _mm512_packs_epi32(a, b));
+                const std::int64_t cnt = std::int64_t(npix) * C;
+                _mm512_mask_storeu_epi16(out + j * C, simd::tail_mask32(cnt), words);
             }
         }
     }
 
+    // 32 elements a step: the two rows interleaved into 16-bit pairs, one
+    // multiply-add with (16384 - w, w), and the packs put the order back.
     static void col(const void* const* rows, const std::uint16_t* wy, std::int64_t n, std::uint8_t* dst) {
         const auto* r0 = static_cast<const std::int16_t*>(rows[0]);
         const auto* r1 = static_cast<const std::int16_t*>(rows[1]);
-        const __m512i w1 = _mm512_set1_epi32(*wy), w0 = _mm512_set1_epi32(16384 - *wy);
-        for (std::int64_t e = 0; e < n; e += 16) {
-            const __mmask16 m = vec::m16(n - e);
-            const __m512i t0 = _mm512_cvtepi16_epi32(_mm256_maskz_loadu_epi16(m, r0 + e));
-            const __m512i t1 = _mm512_cvtepi16_epi32(_mm256_maskz_loadu_epi16(m, r1 + e));
-            __m512i v = _mm512_add_epi32(_mm512_mullo_epi32(t0, w0), _mm512_mullo_epi32(t1, w1));
-            v = _mm512_srai_epi32(_mm512_add_epi32(v, _mm512_set1_epi32(0x80000)), 20);
-            v = _mm512_max_epi32(v, _mm512_setzero_si512());
-            _mm_mask_storeu_epi8(dst + e, m, _mm512_cvtusepi32_epi8(v));
+        const __m512i w = _mm512_set1_epi32(std::int32_t(std::uint32_t(*wy) << 16 | std::uint32_t(16384 - *wy)));
+        const __m512i half = _mm512_set1_epi32(0x80000);
+        for (std::int64_t e = 0; e < n; e += 32) {
+            const __mmask32 m = n - e >= 32 ? ~__mmask32(0) : simd::tail_mask32(n - e);
+            const __m512i a = _mm512_maskz_loadu_epi16(m, r0 + e), b = _mm512_maskz_loadu_epi16(m, r1 + e);
+            const __m512i lo = _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(_mm512_unpacklo_epi16(a, b), w), half), 20);
+            const __m512i hi = _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(_mm512_unpackhi_epi16(a, b), w), half), 20);
+            const __m512i v = _mm512_max_epi16(_mm512_packs_epi32(lo, hi), _mm512_setzero_si512());
+            _mm256_mask_storeu_epi8(dst + e, m, _mm512_cvtusepi16_epi8(v));
         }
     }
 };
