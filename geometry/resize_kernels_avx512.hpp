@@ -387,8 +387,10 @@ struct LinearQ14Vector {
                     r = _mm512_inserti32x4(r, pix(3), 3);
                 }
                 r = _mm512_shuffle_epi8(r, spread);
-                const __m512i ww =
-                    _mm512_permutexvar_epi32(bcast, _mm512_maskz_loadu_epi32(vec::m16(npix), w + 2 * j0));
+                const __m512i pairs =
+                    npix == 4 ? _mm512_castsi128_si512(_mm_loadu_si128(reinterpret_cast<const __m128i*>(w + 2 * j0)))
+                              : _mm512_maskz_loadu_epi32(vec::m16(npix), w + 2 * j0);
+                const __m512i ww = _mm512_permutexvar_epi32(bcast, pairs);
                 return _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(r, ww), _mm512_set1_epi32(128)), 8);
             };
             for (std::int64_t j = 0; j < n; j += 8) {
