@@ -134,7 +134,7 @@ void cv_case(benchmark::State& st, Method m, Case c, int channels) {
 
 void add(const std::string& name, void (*f)(benchmark::State&, Method, Case, int), Method m, Case c, int channels) {
     benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& st) { f(st, m, c, channels); })
-        ->Unit(benchmark::kMillisecond)
+        ->Unit(benchmark::kMicrosecond)
         ->UseRealTime();
 }
 

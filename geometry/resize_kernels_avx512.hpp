@@ -373,9 +373,9 @@ struct LinearQ14Vector {
                 __m512i r;
                 if (npix == 4 && std::int64_t(xTab[j0 + 3]) * C <= safeLast) {
                     r = _mm512_castsi128_si512(_mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0]) * C)));
-                    r = _mm512_mask_broadcast_i32x4(r, 0x00F0, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 1]) * C)));
-                    r = _mm512_mask_broadcast_i32x4(r, 0x0F00, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 2]) * C)));
-                    r = _mm512_mask_broadcast_i32x4(r, 0xF000, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 3]) * C)));
+                    r = _mm512_inserti32x4(r, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 1]) * C)), 1);
+                    r = _mm512_inserti32x4(r, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 2]) * C)), 2);
+                    r = _mm512_inserti32x4(r, _mm_loadu_si128(reinterpret_cast<const __m128i*>(src + std::int64_t(xTab[j0 + 3]) * C)), 3);
                 } else {
                     auto pix = [&](int i) {
                         return i < npix ? _mm_maskz_loadu_epi8(pixMask, src + std::int64_t(xTab[j0 + i]) * C)
@@ -417,7 +417,9 @@ struct LinearQ14Vector {
             const __m512i lo = _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(_mm512_unpacklo_epi16(a, b), w), half), 20);
             const __m512i hi = _mm512_srai_epi32(_mm512_add_epi32(_mm512_madd_epi16(_mm512_unpackhi_epi16(a, b), w), half), 20);
             const __m512i v = _mm512_max_epi16(_mm512_packs_epi32(lo, hi), _mm512_setzero_si512());
-            _mm256_mask_storeu_epi8(dst + e, m, _mm512_cvtusepi16_epi8(v));
+            const __m256i bytes = _mm512_cvtusepi16_epi8(v);
+            if (n - e >= 32) _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + e), bytes);
+            else _mm256_mask_storeu_epi8(dst + e, m, bytes);
         }
     }
 };
