@@ -24,7 +24,7 @@ bool interpolation_known(std::uint32_t i) {
 // Antialiased records exist for no method here: the nearest and super forms
 // ignore the flag with +46, the others are not supported.
 GexStatus sizes(std::int64_t sw, std::int64_t sh, std::int64_t dw, std::int64_t dh, bool dbl, std::uint32_t interp,
-                std::uint32_t aa, std::uint64_t& spec, std::uint64_t& init) {
+                std::uint32_t aa, std::uint64_t& record, std::uint64_t& init) {
     if (interp == 0) return gexStsNotSupportedMode;
     if (dbl && (interp != kLinear || aa != 0)) return gexStsNotSupportedMode;
     switch (interp) {
@@ -46,20 +46,20 @@ GexStatus sizes(std::int64_t sw, std::int64_t sh, std::int64_t dw, std::int64_t 
     const std::uint64_t W32 = (W + 31) & ~std::uint64_t{31}, H32 = (H + 31) & ~std::uint64_t{31};
     init = 64;
     switch (interp) {
-    case kNearest: spec = (W32 + H32) * 4 + kRecordBytes + 64; break;
+    case kNearest: record = (W32 + H32) * 4 + kRecordBytes + 64; break;
     case kLinear:
-        spec = dbl ? W32 * 12 + ((H + 31) / 32) * 128 + ((H + 31) / 32) * 256 + 192 + 64
+        record = dbl ? W32 * 12 + ((H + 31) / 32) * 128 + ((H + 31) / 32) * 256 + 192 + 64
                    : (W32 + H32) * 8 + kRecordBytes + 64;
         break;
     case kCubic:
-        spec = (W32 + H32) * 4 + kRecordBytes + (((W * 4 + 127) >> 5) + ((H * 4 + 127) >> 5)) * 128 + 64;
+        record = (W32 + H32) * 4 + kRecordBytes + (((W * 4 + 127) >> 5) + ((H * 4 + 127) >> 5)) * 128 + 64;
         init = (W32 + H32) * 4 + 64;
         break;
     case kLanczos:
-        spec = (W32 + H32) * 4 + kRecordBytes + (((W * 6 + 191) >> 5) + ((H * 6 + 191) >> 5)) * 128 + 64;
+        record = (W32 + H32) * 4 + kRecordBytes + (((W * 6 + 191) >> 5) + ((H * 6 + 191) >> 5)) * 128 + 64;
         init = (W32 + H32) * 4 + 64;
         break;
-    default: spec = super_spec_size(std::uint64_t(sw), std::uint64_t(sh), W, H); break;
+    default: record = super_spec_size(std::uint64_t(sw), std::uint64_t(sh), W, H); break;
     }
     return aa != 0 ? gexStsNoAntialiasing : gexStsOk;
 }
@@ -76,11 +76,11 @@ GexStatus get_size32(GexiSize src, GexiSize dst, bool dbl, std::uint32_t interp,
                      Gex32u* pSpecSize, Gex32u* pInitBufSize) {
     GEX_CHECK(check_null(pSpecSize, pInitBufSize));
     GEX_CHECK(check_sizes(src, dst, interp));
-    std::uint64_t spec = 0, init = 0;
-    const GexStatus st = sizes(src.width, src.height, dst.width, dst.height, dbl, interp, aa, spec, init);
+    std::uint64_t record = 0, init = 0;
+    const GexStatus st = sizes(src.width, src.height, dst.width, dst.height, dbl, interp, aa, record, init);
     if (st < 0) return st;
-    if (spec >= kQueryLimit || init >= kQueryLimit) return gexStsExceededSize;
-    *pSpecSize = Gex32u(spec);
+    if (record >= kQueryLimit || init >= kQueryLimit) return gexStsExceededSize;
+    *pSpecSize = Gex32u(record);
     *pInitBufSize = Gex32u(init);
     return st;
 }
@@ -213,11 +213,11 @@ GEX_EXPORT(GexStatus, gexiResizeGetSize_L,
     constexpr std::int64_t lim = 0x1FFFFFFF;
     if (srcSize.width > lim || srcSize.height > lim || dstSize.width > lim || dstSize.height > lim)
         return gexStsExceededSize;
-    std::uint64_t spec = 0, init = 0;
+    std::uint64_t record = 0, init = 0;
     const GexStatus st = sizes(srcSize.width, srcSize.height, dstSize.width, dstSize.height, t == gex64f,
-                               std::uint32_t(interpolation), antialiasing, spec, init);
+                               std::uint32_t(interpolation), antialiasing, record, init);
     if (st < 0) return st;
-    *pSpecSize = Gex64s(spec);
+    *pSpecSize = Gex64s(record);
     *pInitBufSize = Gex64s(init);
     return st;
 }

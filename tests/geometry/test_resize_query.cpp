@@ -21,7 +21,7 @@ namespace {
 std::uint64_t r32(std::uint64_t n) { return (n + 31) / 32 * 32; }
 
 struct Sizes {
-    std::uint64_t spec, init;
+    std::uint64_t record, init;
 };
 
 unsigned gcd(unsigned a, unsigned b) { return b ? gcd(b, a % b) : a; }
@@ -59,24 +59,24 @@ TEST(ResizeGetSize, FormulasOfEveryMethodAndForm) {
             for (SizeFn f : kNarrowSize) {
                 Gex32u a = 0, b = 0;
                 ASSERT_EQ(f(s, d, GexiInterpolation(interp), 0, &a, &b), 0);
-                EXPECT_EQ(a, want.spec) << interp;
+                EXPECT_EQ(a, want.record) << interp;
                 EXPECT_EQ(b, want.init) << interp;
             }
             for (GexDataType t : {gex8u, gex16u, gex16s, gex32f}) {
                 Gex64s a = 0, b = 0;
                 ASSERT_EQ(gexiResizeGetSize_L({s.width, s.height}, {d.width, d.height}, t, GexiInterpolation(interp), 0, &a, &b), 0);
-                EXPECT_EQ(std::uint64_t(a), want.spec);
+                EXPECT_EQ(std::uint64_t(a), want.record);
                 EXPECT_EQ(std::uint64_t(b), want.init);
             }
         }
         const Sizes want = expected_sizes(2, true, s, d);
         Gex32u a = 0, b = 0;
         ASSERT_EQ(gexiResizeGetSize_64f(s, d, gexiInterLinear, 0, &a, &b), 0);
-        EXPECT_EQ(a, want.spec);
+        EXPECT_EQ(a, want.record);
         EXPECT_EQ(b, want.init);
         Gex64s la = 0, lb = 0;
         ASSERT_EQ(gexiResizeGetSize_L({s.width, s.height}, {d.width, d.height}, gex64f, gexiInterLinear, 0, &la, &lb), 0);
-        EXPECT_EQ(std::uint64_t(la), want.spec);
+        EXPECT_EQ(std::uint64_t(la), want.record);
     }
 }
 
