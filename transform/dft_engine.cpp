@@ -352,39 +352,49 @@ inline void butterfly(V* a, int r, const Gex32fc* cs, V* y, V* p, V* q) {
     }
 }
 
+// One self-sorting pass, element by element: the scalar twin (V = C1) and the
+// batched form (V = CB, eight sequences side by side).
+template <bool INV, class V, class PI, class PO>
+void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
+    const int r = f.factor;
+    const std::int64_t s = f.stride, m = f.n / r, nr = N / r;
+    const bool twid = m > 1;
+    V a[kMaxRadix], yy[kMaxRadix], p[kMaxRadix / 2 + 1], q[kMaxRadix / 2 + 1];
+    if (!f.expanded) {
+        for (std::int64_t pp = 0; pp < m; ++pp) {
+            const Gex32fc* tw = f.pTw + pp * (r - 1);
+            for (std::int64_t qq = 0; qq < s; ++qq) {
+                for (int j = 0; j < r; ++j) a[j] = ld<V>(x + (qq + s * (pp + j * m)));
+                butterfly<INV>(a, r, f.pCs, yy, p, q);
+                for (int k = 0; k < r; ++k) {
+                    V v = a[k];
+                    if (twid && k) v = twiddle<INV>(v, ld<V>(tw + k - 1));
+                    if (doScale) v = scale(v, scl);
+                    st(y + (qq + s * (r * pp + k)), v);
+                }
+            }
+        }
+    } else {
+        for (std::int64_t i = 0; i < nr; ++i) {
+            for (int j = 0; j < r; ++j) a[j] = ld<V>(x + (i + j * nr));
+            butterfly<INV>(a, r, f.pCs, yy, p, q);
+            for (int k = 0; k < r; ++k) {
+                V v = a[k];
+                if (twid && k) v = twiddle<INV>(v, ld<V>(f.pTw + (k - 1) * nr + i));
+                if (doScale) v = scale(v, scl);
+                st(y + (f.pIdx[i] + s * k), v);
+            }
+        }
+    }
+}
+
 template <bool INV, bool SCALAR>
 void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
     const int r = f.factor;
     const std::int64_t s = f.stride, m = f.n / r, nr = N / r;
     const bool twid = m > 1;
     if constexpr (SCALAR) {
-        C1 a[kMaxRadix], yy[kMaxRadix], p[kMaxRadix / 2 + 1], q[kMaxRadix / 2 + 1];
-        if (!f.expanded) {
-            for (std::int64_t pp = 0; pp < m; ++pp) {
-                const Gex32fc* tw = f.pTw + pp * (r - 1);
-                for (std::int64_t qq = 0; qq < s; ++qq) {
-                    for (int j = 0; j < r; ++j) a[j] = ld<C1>(x + qq + s * (pp + j * m));
-                    butterfly<INV>(a, r, f.pCs, yy, p, q);
-                    for (int k = 0; k < r; ++k) {
-                        C1 v = a[k];
-                        if (twid && k) v = twiddle<INV>(v, ld<C1>(tw + k - 1));
-                        if (doScale) v = scale(v, scl);
-                        st(y + qq + s * (r * pp + k), v);
-                    }
-                }
-            }
-        } else {
-            for (std::int64_t i = 0; i < nr; ++i) {
-                for (int j = 0; j < r; ++j) a[j] = ld<C1>(x + i + j * nr);
-                butterfly<INV>(a, r, f.pCs, yy, p, q);
-                for (int k = 0; k < r; ++k) {
-                    C1 v = a[k];
-                    if (twid && k) v = twiddle<INV>(v, ld<C1>(f.pTw + (k - 1) * nr + i));
-                    if (doScale) v = scale(v, scl);
-                    st(y + f.pIdx[i] + s * k, v);
-                }
-            }
-        }
+        stockham_elem<INV, C1>(x, y, f, N, scl, doScale);
     } else {
         C8 a[kMaxRadix], yy[kMaxRadix], p[kMaxRadix / 2 + 1], q[kMaxRadix / 2 + 1];
         if (!f.expanded) {
@@ -508,7 +518,7 @@ void run_r_fwd(const Gex32f* src, Gex32f* dst, const DftSpec* s, Gex8u* buf) {
     } else if (n % 2 == 0) {
         const int m = n / 2;
         run_c(reinterpret_cast<const Gex32fc*>(src), reinterpret_cast<Gex32fc*>(dst), s->pSub, buf, false);
-        fft::recombine_fwd(dst, m, s->pRealRec, s->normFactor, doScale);
+        fft::recombine_fwd(dst, m, s->pRealRec, s->normFactor, doScale, s->scalarOnly != 0);
         fft::perm_to_pack(dst, n);
     } else {
         Gex32fc* a = reinterpret_cast<Gex32fc*>(fft::align64(buf));
@@ -534,7 +544,7 @@ void run_r_inv(const Gex32f* src, Gex32f* dst, const DftSpec* s, Gex8u* buf) {
         const int m = n / 2;
         if (src != dst) std::memcpy(dst, src, sizeof(Gex32f) * n);
         fft::pack_to_perm(dst, n);
-        fft::recombine_inv(dst, m, s->pRealRec, s->normFactor, doScale);
+        fft::recombine_inv(dst, m, s->pRealRec, s->normFactor, doScale, s->scalarOnly != 0);
         run_c(reinterpret_cast<const Gex32fc*>(dst), reinterpret_cast<Gex32fc*>(dst), s->pSub, buf, true);
     } else {
         Gex32fc* a = reinterpret_cast<Gex32fc*>(fft::align64(buf));
@@ -619,6 +629,35 @@ void dft_force_scalar(DftSpec* s) {
 }
 
 int dft_plan_of(int length) { return choose_plan(length); }
+
+bool fft::dft_batch_ok(const DftSpec* s) {
+    if (s->plan == kDftFFT) return fft::fft_batch_ok(s->pFftSpec);
+    return s->plan == kDftPrimeFact;
+}
+
+void fft::dft_run_batch(SPtr src, SPtr dst, const DftSpec* s, Gex8u* buf, bool inv) {
+    if (s->plan == kDftFFT) {
+        fft::fft_run_batch(src, dst, s->pFftSpec, buf, inv);
+        return;
+    }
+    const bool doScale = inv ? s->scaleInv != 0 : s->scaleFwd != 0;
+    const int P = s->nFactorsM1 + 1;
+    const std::int64_t N = s->length;
+    const SPtr A = {fft::align64(buf), 64};
+    // passes alternate between the buffer and the destination, the first one
+    // into the buffer (the source may be the destination); an odd count
+    // ends in the buffer and is copied out.
+    SPtr in = src;
+    for (int i = 0; i < P; ++i) {
+        const SPtr out = (i % 2 == 0) ? A : dst;
+        const bool fin = i == P - 1;
+        if (inv) stockham_elem<true, CB>(in, out, s->factors[i], N, s->normFactor, doScale && fin);
+        else stockham_elem<false, CB>(in, out, s->factors[i], N, s->normFactor, doScale && fin);
+        in = out;
+    }
+    if (P % 2 == 1)
+        for (std::int64_t i = 0; i < N; ++i) st(dst + i, ld<CB>(A + i));
+}
 
 void fft::dft_run_c(const Gex32fc* src, Gex32fc* dst, const DftSpec* s, Gex8u* buf, bool inv) { run_c(src, dst, s, buf, inv); }
 void fft::dft_run_r_fwd(const Gex32f* src, Gex32f* dst, const DftSpec* s, Gex8u* buf) { run_r_fwd(src, dst, s, buf); }

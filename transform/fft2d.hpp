@@ -18,6 +18,7 @@
 
 #include "frame/checks.hpp"
 #include "transform/fft_engine.hpp"
+#include "transform/fft_kernels.hpp"
 
 namespace gex {
 
@@ -59,6 +60,10 @@ struct FftEngine {
     static void runC(const Gex32fc* s, Gex32fc* d, const void* sp, Gex8u* b, bool inv) {
         fft::fft_run_c(s, d, static_cast<const FftSpec*>(sp), b, inv);
     }
+    static bool batch(const void* sp) { return fft::fft_batch_ok(static_cast<const FftSpec*>(sp)); }
+    static void runBatch(fftk::SPtr s, fftk::SPtr d, const void* sp, Gex8u* b, bool inv) {
+        fft::fft_run_batch(s, d, static_cast<const FftSpec*>(sp), b, inv);
+    }
 };
 struct DftEngine {
     using Spec = DftSpec;
@@ -70,6 +75,10 @@ struct DftEngine {
     }
     static void runC(const Gex32fc* s, Gex32fc* d, const void* sp, Gex8u* b, bool inv) {
         fft::dft_run_c(s, d, static_cast<const DftSpec*>(sp), b, inv);
+    }
+    static bool batch(const void* sp) { return fft::dft_batch_ok(static_cast<const DftSpec*>(sp)); }
+    static void runBatch(fftk::SPtr s, fftk::SPtr d, const void* sp, Gex8u* b, bool inv) {
+        fft::dft_run_batch(s, d, static_cast<const DftSpec*>(sp), b, inv);
     }
 };
 
@@ -114,10 +123,16 @@ void column_group(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
     Gex8u* rest = reinterpret_cast<Gex8u*>(g + fft::align64up(std::int64_t{G} * H * 8) / 8);
     const bool fast8 = wide && G == 8 && cstride == 2 && ri == 1;
     int y = 0;
+    // Rows a power-of-two step apart defeat the hardware prefetcher: fetch
+    // the rows of the transposition two blocks ahead by hand.
+    constexpr int kAhead = 16;
     if (fast8)
-        for (; y + 8 <= H; y += 8)
+        for (; y + 8 <= H; y += 8) {
+            if (y + kAhead + 8 <= H)
+                for (int i = 0; i < 8; ++i) _mm_prefetch(reinterpret_cast<const char*>(row(src, sstep, y + kAhead + i) + base), _MM_HINT_T0);
             transpose8x8(reinterpret_cast<const double*>(row(src, sstep, y) + base), sstep / 8,
                          reinterpret_cast<double*>(g + y), H);
+        }
     for (; y < H; ++y) {
         const Gex32f* r = row(src, sstep, y) + base;
         for (int k = 0; k < G; ++k) g[std::int64_t{k} * H + y] = {r[k * cstride], r[k * cstride + ri]};
@@ -126,6 +141,8 @@ void column_group(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
     y = 0;
     if (fast8)
         for (; y + 8 <= H; y += 8) {
+            if (y + kAhead + 8 <= H)
+                for (int i = 0; i < 8; ++i) _mm_prefetch(reinterpret_cast<const char*>(row(dst, dstep, y + kAhead + i) + base), _MM_HINT_T0);
             alignas(64) double tmp[64];
             for (int k = 0; k < 8; ++k) std::memcpy(tmp + k * 8, g + std::int64_t{k} * H + y, 64);
             // rows of tmp are columns; transpose back into 8 image rows
@@ -147,6 +164,17 @@ void complex_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::in
                      std::int64_t base, std::int64_t cstride, std::int64_t ri, const void* colC, Gex8u* buf, bool inv,
                      bool wide) {
     std::int64_t c = 0;
+    // Eight neighbouring complex columns are 64 contiguous bytes a row: when
+    // the column plan runs batched, the eight transforms go side by side
+    // straight from the rows (its first pass reads them, its last pass writes
+    // them back) with the work buffer holding the passes between.
+    if (cstride == 2 && ri == 1 && E::batch(colC)) {
+        for (; c + 8 <= n; c += 8) {
+            const fftk::SPtr S = {reinterpret_cast<Gex8u*>(const_cast<Gex32f*>(src) + base + c * 2), sstep};
+            const fftk::SPtr D = {reinterpret_cast<Gex8u*>(dst + base + c * 2), dstep};
+            E::runBatch(S, D, colC, buf, inv);
+        }
+    }
     const bool fast = wide && cstride == 2 && ri == 1 && (sstep % 8 == 0) && (dstep % 8 == 0);
     if (wide)
         for (; c + 8 <= n; c += 8)

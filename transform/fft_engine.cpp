@@ -156,13 +156,13 @@ void radix4_tw_fill(Gex32fc* tw, int c) {
 }
 
 // ---- radix-4 path kernels: scalar twins and 512-bit forms ----
-template <bool INV>
-void first_pass_c1(const Gex32fc* src, Gex32fc* dst, std::int64_t n, const std::int32_t* br) {
+template <bool INV, class V = C1, class PI, class PO>
+void first_pass_c1(PI src, PO dst, std::int64_t n, const std::int32_t* br) {
     const std::int64_t q = n / 4;
     for (std::int64_t r = 0; r < q; ++r) {
-        C1 a0 = ld<C1>(src + r), a1 = ld<C1>(src + r + q), a2 = ld<C1>(src + r + 2 * q), a3 = ld<C1>(src + r + 3 * q);
+        V a0 = ld<V>(src + r), a1 = ld<V>(src + r + q), a2 = ld<V>(src + r + 2 * q), a3 = ld<V>(src + r + 3 * q);
         dft4<INV>(a0, a1, a2, a3);
-        Gex32fc* d = dst + 4 * std::int64_t{br[r]};
+        const auto d = dst + 4 * std::int64_t{br[r]};
         st(d, a0);
         st(d + 1, a1);
         st(d + 2, a2);
@@ -205,15 +205,15 @@ void first_pass_inplace(Gex32fc* d, std::int64_t n) {
     }
 }
 
-template <bool INV>
-void l4_pass_c1(const Gex32fc* in, Gex32fc* out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
+template <bool INV, class V = C1, class PI, class PO>
+void l4_pass_c1(PI in, PO out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
     for (std::int64_t g = 0; g < n; g += 16)
         for (int j = 0; j < 4; ++j) {
-            C1 a0 = ld<C1>(in + g + j), a1 = ld<C1>(in + g + j + 8), a2 = ld<C1>(in + g + j + 4),
-               a3 = ld<C1>(in + g + j + 12);
-            a1 = twiddle<INV>(a1, ld<C1>(tw + j));
-            a2 = twiddle<INV>(a2, ld<C1>(tw + 4 + j));
-            a3 = twiddle<INV>(a3, ld<C1>(tw + 8 + j));
+            V a0 = ld<V>(in + g + j), a1 = ld<V>(in + g + j + 8), a2 = ld<V>(in + g + j + 4),
+              a3 = ld<V>(in + g + j + 12);
+            a1 = twiddle<INV>(a1, ld<V>(tw + j));
+            a2 = twiddle<INV>(a2, ld<V>(tw + 4 + j));
+            a3 = twiddle<INV>(a3, ld<V>(tw + 8 + j));
             dft4<INV>(a0, a1, a2, a3);
             if (doScale) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
             st(out + g + j, a0);
@@ -247,12 +247,12 @@ void l4_pass_c8(const Gex32fc* in, Gex32fc* out, std::int64_t n, const Gex32fc* 
     }
 }
 
-template <bool INV>
-void r2_pass_c1(const Gex32fc* in, Gex32fc* out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
+template <bool INV, class V = C1, class PI, class PO>
+void r2_pass_c1(PI in, PO out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
     for (std::int64_t g = 0; g < n; g += 8)
         for (int j = 0; j < 4; ++j) {
-            const C1 a0 = ld<C1>(in + g + j), a1 = twiddle<INV>(ld<C1>(in + g + j + 4), ld<C1>(tw + j));
-            C1 y0 = add(a0, a1), y1 = sub(a0, a1);
+            const V a0 = ld<V>(in + g + j), a1 = twiddle<INV>(ld<V>(in + g + j + 4), ld<V>(tw + j));
+            V y0 = add(a0, a1), y1 = sub(a0, a1);
             if (doScale) y0 = scale(y0, scl), y1 = scale(y1, scl);
             st(out + g + j, y0);
             st(out + g + j + 4, y1);
@@ -273,34 +273,44 @@ void r2_pass_c8(const Gex32fc* in, Gex32fc* out, std::int64_t n, const Gex32fc* 
 }
 
 // The passes after the first, on t (in place) with the last one written to
-// out: radix-2 (odd stage count), then radix-4 spans up to n/4.
-template <bool INV>
-void radix4_passes(Gex32fc* t, Gex32fc* out, int c, const Gex32fc* tw, float scl, bool doScale, bool scalar) {
+// out: radix-2 (odd stage count), then radix-4 spans up to n/4. `mode` 0 runs
+// the 512-bit kernels, 1 their scalar twins, 2 the batched form (P = SPtr).
+template <bool INV, int MODE, class P>
+void radix4_passes_t(P t, P out, int c, const Gex32fc* tw, float scl, bool doScale) {
     const std::int64_t n = std::int64_t{1} << c;
     std::int64_t L;
     auto last = [&](std::int64_t span) { return span * 4 > n / 4; };
     if ((c - 2) & 1) {
         const bool fin = 8 > n / 4;
-        Gex32fc* o = fin ? out : t;
-        if (scalar) r2_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
+        const P o = fin ? out : t;
+        if constexpr (MODE == 1) r2_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
+        else if constexpr (MODE == 2) r2_pass_c1<INV, CB>(t, o, n, tw, scl, doScale && fin);
         else r2_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
         tw += 4;
         L = 8;
     } else {
         const bool fin = last(4);
-        Gex32fc* o = fin ? out : t;
-        if (scalar) l4_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
+        const P o = fin ? out : t;
+        if constexpr (MODE == 1) l4_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
+        else if constexpr (MODE == 2) l4_pass_c1<INV, CB>(t, o, n, tw, scl, doScale && fin);
         else l4_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
         tw += 12;
         L = 16;
     }
     for (; L <= n / 4; L *= 4) {
         const bool fin = last(L);
-        Gex32fc* o = fin ? out : t;
-        if (scalar) r4_pass<INV, C1>(t, o, n, L, tw, scl, doScale && fin);
+        const P o = fin ? out : t;
+        if constexpr (MODE == 1) r4_pass<INV, C1>(t, o, n, L, tw, scl, doScale && fin);
+        else if constexpr (MODE == 2) r4_pass<INV, CB>(t, o, n, L, tw, scl, doScale && fin);
         else r4_pass<INV, C8>(t, o, n, L, tw, scl, doScale && fin);
         tw += 3 * L;
     }
+}
+
+template <bool INV>
+void radix4_passes(Gex32fc* t, Gex32fc* out, int c, const Gex32fc* tw, float scl, bool doScale, bool scalar) {
+    if (scalar) radix4_passes_t<INV, 1>(t, out, c, tw, scl, doScale);
+    else radix4_passes_t<INV, 0>(t, out, c, tw, scl, doScale);
 }
 
 // ---- large path ----
@@ -520,42 +530,60 @@ void fft_run_c(const Gex32fc* src, Gex32fc* dst, const FftSpec* s, Gex8u* buf, b
     else run_complex<false>(src, dst, s, buf, s->normFactor, doScale);
 }
 
-void recombine_fwd(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale) {
-    const float sc = doScale ? s : 1.0f, h = 0.5f * sc;
+namespace {
+// One group of pairs (k.., m-k..) of the recombination: V holds W values of
+// k ascending; the partners m-k are loaded reversed. Forward:
+//   X_k = h ((A + conj B) + w^k ((A - conj B) (-i))),  B = Z_(m-k),
+// and X_(m-k) the same with A, B exchanged (w^(m-k) = -conj w^k).
+// Inverse: Z_k = s ((A + conj B) + i conj(w^k) (A - conj B)).
+template <bool INV, class V>
+inline void recombine_step(Gex32fc* z, std::int64_t k, std::int64_t m, const Gex32fc* tw, float h) {
+    constexpr int W = width<V>;
+    const std::int64_t j = m - k - (W - 1);
+    const V A = ld<V>(z + k), B = reverse(ld<V>(z + j)), w = ld<V>(tw + k);
+    const V cb = conj(B);
+    const V e = add(A, cb), o = sub(A, cb);
+    V xk, xj;
+    if constexpr (!INV) {
+        xk = scale(add(e, cmul(rot_m(o), w)), h);
+        xj = scale(add(conj(e), cmul(swap(o), negre(w))), h);
+    } else {
+        xk = scale(add(e, rot_p(cmulc(o, w))), h);
+        xj = scale(add(conj(e), rot_p(cmulc(negre(o), negre(w)))), h);
+    }
+    st(z + j, reverse(xj));
+    st(z + k, xk);
+}
+
+template <bool INV>
+void recombine(Gex32f* d, std::int64_t m, const Gex32fc* tw, float h, bool scalar) {
+    Gex32fc* z = reinterpret_cast<Gex32fc*>(d);
+    std::int64_t k = 1;
+    if (!scalar)
+        for (; k + 7 < m - k - 7; k += 8) recombine_step<INV, C8>(z, k, m, tw, h);
+    for (; 2 * k < m; ++k) recombine_step<INV, C1>(z, k, m, tw, h);
+    if (2 * k == m) {  // the self-paired middle bin
+        const C1 A = ld<C1>(z + k), w = ld<C1>(tw + k);
+        const C1 e = add(A, conj(A)), o = sub(A, conj(A));
+        st(z + k, INV ? scale(add(e, rot_p(cmulc(o, w))), h) : scale(add(e, cmul(rot_m(o), w)), h));
+    }
+}
+}  // namespace
+
+void recombine_fwd(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale, bool scalar) {
+    const float sc = doScale ? s : 1.0f;
     const C1 z0 = {d[0], d[1]};
     d[0] = (z0.re + z0.im) * sc;
     d[1] = (z0.re - z0.im) * sc;
-    Gex32fc* z = reinterpret_cast<Gex32fc*>(d);
-    for (std::int64_t k = 1; 2 * k <= m; ++k) {
-        const std::int64_t j = m - k;
-        const C1 A = ld<C1>(z + k), B = ld<C1>(z + j), w = ld<C1>(tw + k);
-        const C1 e = {A.re + B.re, A.im - B.im}, o = {A.re - B.re, A.im + B.im};
-        const C1 xk = scale(add(e, cmul(rot_m(o), w)), h);
-        if (j != k) {
-            const C1 e2 = {e.re, -e.im}, ro2 = {o.im, o.re}, w2 = {-w.re, w.im};
-            st(z + j, scale(add(e2, cmul(ro2, w2)), h));
-        }
-        st(z + k, xk);
-    }
+    recombine<false>(d, m, tw, 0.5f * sc, scalar);
 }
 
-void recombine_inv(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale) {
+void recombine_inv(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale, bool scalar) {
     const float sc = doScale ? s : 1.0f;
     const float x0 = d[0], xm = d[1];
     d[0] = (x0 + xm) * sc;
     d[1] = (x0 - xm) * sc;
-    Gex32fc* z = reinterpret_cast<Gex32fc*>(d);
-    for (std::int64_t k = 1; 2 * k <= m; ++k) {
-        const std::int64_t j = m - k;
-        const C1 A = ld<C1>(z + k), B = ld<C1>(z + j), w = ld<C1>(tw + k);
-        const C1 e = {A.re + B.re, A.im - B.im}, o = {A.re - B.re, A.im + B.im};
-        const C1 zk = scale(add(e, rot_p(cmulc(o, w))), sc);
-        if (j != k) {
-            const C1 e2 = {e.re, -e.im}, o2 = {-o.re, o.im}, w2 = {-w.re, w.im};
-            st(z + j, scale(add(e2, rot_p(cmulc(o2, w2))), sc));
-        }
-        st(z + k, zk);
-    }
+    recombine<true>(d, m, tw, sc, scalar);
 }
 
 void perm_to_pack(Gex32f* d, std::int64_t n) {
@@ -602,11 +630,11 @@ void fft_run_r_fwd(const Gex32f* src, Gex32f* dst, const FftSpec* s, Gex8u* buf,
     if (s->order <= 4 || s->pRealRec) {
         run_complex<false>(reinterpret_cast<const Gex32fc*>(src), reinterpret_cast<Gex32fc*>(dst), s, buf, 1.0f, false);
         if (s->pRealRec) {
-            recombine_fwd(dst, m, s->pRealRec, s->normFactor, doScale);
+            recombine_fwd(dst, m, s->pRealRec, s->normFactor, doScale, s->scalarOnly != 0);
         } else {
             Gex32fc tw[5];
             for (std::int64_t k = 0; k <= n / 4; ++k) tw[k] = kW64.w[k * (64 / n)];
-            recombine_fwd(dst, m, tw, s->normFactor, doScale);
+            recombine_fwd(dst, m, tw, s->normFactor, doScale, true);
         }
     } else {
         // Large: the recombination runs after the transform; its twiddle
@@ -649,11 +677,11 @@ void fft_run_r_inv(const Gex32f* src, Gex32f* dst, const FftSpec* s, Gex8u* buf,
     if (pack) pack_to_perm(dst, n);
     if (s->order <= 4 || s->pRealRec) {
         if (s->pRealRec) {
-            recombine_inv(dst, m, s->pRealRec, s->normFactor, doScale);
+            recombine_inv(dst, m, s->pRealRec, s->normFactor, doScale, s->scalarOnly != 0);
         } else {
             Gex32fc tw[5];
             for (std::int64_t k = 0; k <= n / 4; ++k) tw[k] = kW64.w[k * (64 / n)];
-            recombine_inv(dst, m, tw, s->normFactor, doScale);
+            recombine_inv(dst, m, tw, s->normFactor, doScale, true);
         }
     } else {
         const float sc = doScale ? s->normFactor : 1.0f;
@@ -681,6 +709,22 @@ void fft_run_r_inv(const Gex32f* src, Gex32f* dst, const FftSpec* s, Gex8u* buf,
 }  // namespace fft
 
 void fft_force_scalar(FftSpec* s) { s->scalarOnly = 1; }
+
+bool fft::fft_batch_ok(const FftSpec* s) { return s->id == kIdFftC && s->plan == kFftRadix4; }
+
+void fft::fft_run_batch(SPtr src, SPtr dst, const FftSpec* s, Gex8u* buf, bool inv) {
+    const int c = s->corder;
+    const std::int64_t n = std::int64_t{1} << c;
+    const bool doScale = inv ? s->scaleInv != 0 : s->scaleFwd != 0;
+    const SPtr t = {align64(buf), 64};
+    if (inv) {
+        first_pass_c1<true, CB>(src, t, n, s->pBitRev);
+        radix4_passes_t<true, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale);
+    } else {
+        first_pass_c1<false, CB>(src, t, n, s->pBitRev);
+        radix4_passes_t<false, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale);
+    }
+}
 
 void fft::small_fft_run(const Gex32fc* src, Gex32fc* dst, int order, bool inv, float scl, bool doScale) {
     if (inv) small_fft<true>(src, dst, order, scl, doScale);

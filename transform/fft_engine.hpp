@@ -13,6 +13,10 @@
 
 namespace gex {
 
+namespace fftk {
+struct SPtr;
+}
+
 // Record identifiers.
 enum : std::int32_t { kIdFftC = 4, kIdFftR = 6, kIdDftC = 13, kIdDftR = 15 };
 
@@ -160,13 +164,20 @@ void fft_run_r_inv(const Gex32f* src, Gex32f* dst, const FftSpec* s, Gex8u* buf,
 
 // Real <-> complex-half recombination (forward: Z in place to Perm; inverse:
 // Perm in place to Z), twiddles w_N^k from tw(k), scaled by s.
-void recombine_fwd(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale);
-void recombine_inv(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale);
+void recombine_fwd(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale, bool scalar);
+void recombine_inv(Gex32f* d, std::int64_t m, const Gex32fc* tw, float s, bool doScale, bool scalar);
 void perm_to_pack(Gex32f* d, std::int64_t n);
 // Unchecked runs of an aligned, built any-length record.
 void dft_run_c(const Gex32fc* src, Gex32fc* dst, const DftSpec* s, Gex8u* buf, bool inv);
 void dft_run_r_fwd(const Gex32f* src, Gex32f* dst, const DftSpec* s, Gex8u* buf);
 void dft_run_r_inv(const Gex32f* src, Gex32f* dst, const DftSpec* s, Gex8u* buf);
+// Eight transforms side by side: element i of each sequence is the 8 complex
+// values at base + i * step (fftk::SPtr); the work buffer holds 64 N bytes.
+// Supported for the radix-4 plan and, any length, the prime-factor plan.
+bool fft_batch_ok(const FftSpec* s);
+void fft_run_batch(fftk::SPtr src, fftk::SPtr dst, const FftSpec* s, Gex8u* buf, bool inv);
+bool dft_batch_ok(const DftSpec* s);
+void dft_run_batch(fftk::SPtr src, fftk::SPtr dst, const DftSpec* s, Gex8u* buf, bool inv);
 // The table-free kernels of lengths up to 64 (order 0..6).
 void small_fft_run(const Gex32fc* src, Gex32fc* dst, int order, bool inv, float scl, bool doScale);
 void pack_to_perm(Gex32f* d, std::int64_t n);

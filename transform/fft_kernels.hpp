@@ -70,11 +70,40 @@ struct C1 {
 struct C8 {
     __m512 v;
 };
+// Eight independent transforms side by side (eight image columns): one
+// element is a whole 512-bit vector, twiddles are broadcast to every lane.
+struct CB {
+    __m512 v;
+};
+// Element i of a batched sequence: 8 complex values at base + i * step bytes.
+struct SPtr {
+    Gex8u* base;
+    std::int64_t step;
+    SPtr operator+(std::int64_t i) const { return {base + i * step, step}; }
+};
 
 inline C1 add(C1 a, C1 b) { return {a.re + b.re, a.im + b.im}; }
 inline C1 sub(C1 a, C1 b) { return {a.re - b.re, a.im - b.im}; }
 inline C8 add(C8 a, C8 b) { return {_mm512_add_ps(a.v, b.v)}; }
 inline C8 sub(C8 a, C8 b) { return {_mm512_sub_ps(a.v, b.v)}; }
+
+// conj(a), (im, re), (-re, im)
+inline C1 conj(C1 a) { return {a.re, -a.im}; }
+inline C1 swap(C1 a) { return {a.im, a.re}; }
+inline C1 negre(C1 a) { return {-a.re, a.im}; }
+inline C8 conj(C8 a) {
+    return {_mm512_castsi512_ps(
+        _mm512_xor_si512(_mm512_castps_si512(a.v), _mm512_set1_epi64(static_cast<long long>(0x8000000000000000ULL))))};
+}
+inline C8 swap(C8 a) { return {_mm512_permute_ps(a.v, 0xB1)}; }
+inline C8 negre(C8 a) {
+    return {_mm512_castsi512_ps(_mm512_xor_si512(_mm512_castps_si512(a.v), _mm512_set1_epi64(0x80000000LL)))};
+}
+// eight complex values in reverse order
+inline C8 reverse(C8 a) {
+    return {_mm512_castpd_ps(_mm512_permutexvar_pd(_mm512_setr_epi64(7, 6, 5, 4, 3, 2, 1, 0), _mm512_castps_pd(a.v)))};
+}
+inline C1 reverse(C1 a) { return a; }
 
 // a * (-i) and a * (+i).
 inline C1 rot_m(C1 a) { return {a.im, -a.re}; }
@@ -89,6 +118,11 @@ inline C8 rot_p(C8 a) {
     return {_mm512_castsi512_ps(_mm512_xor_si512(_mm512_castps_si512(sw), _mm512_set1_epi64(0x80000000LL)))};
 }
 // a * (-i) forward, a * (+i) inverse
+inline CB add(CB a, CB b) { return {add(C8{a.v}, C8{b.v}).v}; }
+inline CB sub(CB a, CB b) { return {sub(C8{a.v}, C8{b.v}).v}; }
+inline CB rot_m(CB a) { return {rot_m(C8{a.v}).v}; }
+inline CB rot_p(CB a) { return {rot_p(C8{a.v}).v}; }
+
 template <bool INV, class V>
 inline V rot(V a) {
     if constexpr (INV) return rot_p(a);
@@ -109,6 +143,9 @@ inline C8 cmulc(C8 a, C8 w) {
     const __m512 c = _mm512_mul_ps(_mm512_permute_ps(a.v, 0xB1), wi);
     return {_mm512_fmsubadd_ps(a.v, wr, c)};
 }
+inline CB cmul(CB a, CB w) { return {cmul(C8{a.v}, C8{w.v}).v}; }
+inline CB cmulc(CB a, CB w) { return {cmulc(C8{a.v}, C8{w.v}).v}; }
+
 template <bool INV, class V>
 inline V twiddle(V a, V w) {
     if constexpr (INV) return cmulc(a, w);
@@ -120,6 +157,8 @@ inline C8 scale(C8 a, float s) { return {_mm512_mul_ps(a.v, _mm512_set1_ps(s))};
 // acc + p * c, fused per component
 inline C1 fmar(C1 p, float c, C1 acc) { return {std::fma(p.re, c, acc.re), std::fma(p.im, c, acc.im)}; }
 inline C8 fmar(C8 p, float c, C8 acc) { return {_mm512_fmadd_ps(p.v, _mm512_set1_ps(c), acc.v)}; }
+inline CB scale(CB a, float s) { return {_mm512_mul_ps(a.v, _mm512_set1_ps(s))}; }
+inline CB fmar(CB p, float c, CB acc) { return {_mm512_fmadd_ps(p.v, _mm512_set1_ps(c), acc.v)}; }
 
 // loads and stores
 template <class V>
@@ -132,6 +171,18 @@ template <>
 inline C8 ld<C8>(const Gex32fc* p) {
     return {_mm512_loadu_ps(p)};
 }
+// batched: elements through SPtr, twiddles broadcast from plain tables
+template <>
+inline CB ld<CB>(const Gex32fc* p) {
+    return {_mm512_castpd_ps(_mm512_set1_pd(*reinterpret_cast<const double*>(p)))};
+}
+template <class V>
+inline V ld(SPtr p);
+template <>
+inline CB ld<CB>(SPtr p) {
+    return {_mm512_loadu_ps(p.base)};
+}
+inline void st(SPtr p, CB a) { _mm512_storeu_ps(p.base, a.v); }
 inline void st(Gex32fc* p, C1 a) {
     p->re = a.re;
     p->im = a.im;
@@ -235,13 +286,13 @@ inline void dft_any(const V* a, V* y, int r, const Gex32fc* cs, V* p, V* q) {
 // a_t = x[g 4L + j + rev2(t) L] * w_(4L)^(j t), then the 4-point DFT written
 // in natural order. Twiddles in
 // blocks of 8 j: w^j x8, w^2j x8, w^3j x8.
-template <bool INV, class V>
-inline void r4_pass(const Gex32fc* in, Gex32fc* out, std::int64_t n, std::int64_t L, const Gex32fc* tw, float scl,
+template <bool INV, class V, class PI, class PO>
+inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc* tw, float scl,
                     bool doScale) {
     constexpr int W = width<V>;
     for (std::int64_t g = 0; g < n; g += 4 * L) {
-        const Gex32fc* src = in + g;
-        Gex32fc* dst = out + g;
+        const auto src = in + g;
+        const auto dst = out + g;
         for (std::int64_t j = 0; j < L; j += W) {
             const Gex32fc* w = tw + (j / 8) * 24 + (j % 8);
             V a0 = ld<V>(src + j), a1 = ld<V>(src + j + 2 * L), a2 = ld<V>(src + j + L), a3 = ld<V>(src + j + 3 * L);

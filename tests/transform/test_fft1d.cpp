@@ -182,6 +182,36 @@ TEST(Fft1d, VectorKernelsMatchScalarTwins) {
     }
 }
 
+// The real recombination's vector form against its twin, both directions.
+TEST(Fft1d, RealRecombinationMatchesScalarTwin) {
+    std::mt19937 rng(21);
+    std::uniform_real_distribution<float> d(-1.0f, 1.0f);
+    auto check = [&](auto& v, auto& s, std::int64_t n, auto fwdFn, auto invFn) {
+        std::vector<float> x(n), a(n), b(n);
+        for (auto& e : x) e = d(rng);
+        ASSERT_EQ(fwdFn(x.data(), a.data(), v), 0);
+        ASSERT_EQ(fwdFn(x.data(), b.data(), s), 0);
+        EXPECT_EQ(std::memcmp(a.data(), b.data(), n * sizeof(float)), 0) << "forward n " << n;
+        ASSERT_EQ(invFn(x.data(), a.data(), v), 0);
+        ASSERT_EQ(invFn(x.data(), b.data(), s), 0);
+        EXPECT_EQ(std::memcmp(a.data(), b.data(), n * sizeof(float)), 0) << "inverse n " << n;
+    };
+    for (int order = 5; order <= 16; ++order) {
+        Fft1 v(order, 4, true), s(order, 4, true);
+        gex::fft_force_scalar(s.s);
+        check(v, s, std::int64_t{1} << order,
+              [](const float* x, float* y, Fft1& f) { return gex::gexsFFTFwd_RToPack_32f(x, y, f.s, f.buf.data()); },
+              [](const float* x, float* y, Fft1& f) { return gex::gexsFFTInv_PackToR_32f(x, y, f.s, f.buf.data()); });
+    }
+    for (int n : {34, 36, 100, 480, 1000, 2002}) {
+        Dft1 v(n, 4, true), s(n, 4, true);
+        gex::dft_force_scalar(s.s);
+        check(v, s, n,
+              [](const float* x, float* y, Dft1& f) { return gex::gexsDFTFwd_RToPack_32f(x, y, f.s, f.buf.data()); },
+              [](const float* x, float* y, Dft1& f) { return gex::gexsDFTInv_PackToR_32f(x, y, f.s, f.buf.data()); });
+    }
+}
+
 // Real transforms: Pack and Perm against the reference spectrum, and the
 // inverse bringing the samples back.
 std::vector<float> random_real(std::int64_t n, unsigned seed) {

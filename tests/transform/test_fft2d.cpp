@@ -310,7 +310,8 @@ TEST(Transform2d, ComplexBothDirections) {
 // Channels: each channel equals the one-channel transform of that channel;
 // AC4 ignores the source's fourth channel and keeps the destination's.
 TEST(Transform2d, ChannelsAndAlpha) {
-    const Size2 sizes[] = {{8, 4}, {1, 8}, {16, 1}, {7, 5}, {6, 9}, {64, 32}};
+    // 16x128, 10x100 and 24x18 run their columns batched (radix-4 and prime-factor plans)
+    const Size2 sizes[] = {{8, 4}, {1, 8}, {16, 1}, {7, 5}, {6, 9}, {64, 32}, {16, 128}, {10, 100}, {24, 18}};
     for (bool dft : {false, true}) {
         for (Size2 s : sizes) {
             if (!dft && ((s.w & (s.w - 1)) || (s.h & (s.h - 1)))) continue;
