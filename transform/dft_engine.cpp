@@ -368,7 +368,7 @@ void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bo
                 butterfly<INV>(a, r, f.pCs, yy, p, q);
                 for (int k = 0; k < r; ++k) {
                     V v = a[k];
-                    if (twid && k) v = twiddle<INV>(v, ld<V>(tw + k - 1));
+                    if (twid && k) v = twiddle<INV>(v, ldtw<V>(tw + k - 1));
                     if (doScale) v = scale(v, scl);
                     st(y + (qq + s * (r * pp + k)), v);
                 }
@@ -380,7 +380,7 @@ void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bo
             butterfly<INV>(a, r, f.pCs, yy, p, q);
             for (int k = 0; k < r; ++k) {
                 V v = a[k];
-                if (twid && k) v = twiddle<INV>(v, ld<V>(f.pTw + (k - 1) * nr + i));
+                if (twid && k) v = twiddle<INV>(v, ldtw<V>(f.pTw + (k - 1) * nr + i));
                 if (doScale) v = scale(v, scl);
                 st(y + (f.pIdx[i] + s * k), v);
             }

@@ -160,6 +160,8 @@ template <bool INV, class V = C1, class PI, class PO>
 void first_pass_c1(PI src, PO dst, std::int64_t n, const std::int32_t* br) {
     const std::int64_t q = n / 4;
     for (std::int64_t r = 0; r < q; ++r) {
+        if (r + kPrefetchAhead < q)
+            for (int t = 0; t < 4; ++t) prefetch(src + (r + kPrefetchAhead + t * q));
         V a0 = ld<V>(src + r), a1 = ld<V>(src + r + q), a2 = ld<V>(src + r + 2 * q), a3 = ld<V>(src + r + 3 * q);
         dft4<INV>(a0, a1, a2, a3);
         const auto d = dst + 4 * std::int64_t{br[r]};
@@ -211,9 +213,9 @@ void l4_pass_c1(PI in, PO out, std::int64_t n, const Gex32fc* tw, float scl, boo
         for (int j = 0; j < 4; ++j) {
             V a0 = ld<V>(in + g + j), a1 = ld<V>(in + g + j + 8), a2 = ld<V>(in + g + j + 4),
               a3 = ld<V>(in + g + j + 12);
-            a1 = twiddle<INV>(a1, ld<V>(tw + j));
-            a2 = twiddle<INV>(a2, ld<V>(tw + 4 + j));
-            a3 = twiddle<INV>(a3, ld<V>(tw + 8 + j));
+            a1 = twiddle<INV>(a1, ldtw<V>(tw + j));
+            a2 = twiddle<INV>(a2, ldtw<V>(tw + 4 + j));
+            a3 = twiddle<INV>(a3, ldtw<V>(tw + 8 + j));
             dft4<INV>(a0, a1, a2, a3);
             if (doScale) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
             st(out + g + j, a0);
@@ -251,7 +253,7 @@ template <bool INV, class V = C1, class PI, class PO>
 void r2_pass_c1(PI in, PO out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
     for (std::int64_t g = 0; g < n; g += 8)
         for (int j = 0; j < 4; ++j) {
-            const V a0 = ld<V>(in + g + j), a1 = twiddle<INV>(ld<V>(in + g + j + 4), ld<V>(tw + j));
+            const V a0 = ld<V>(in + g + j), a1 = twiddle<INV>(ld<V>(in + g + j + 4), ldtw<V>(tw + j));
             V y0 = add(a0, a1), y1 = sub(a0, a1);
             if (doScale) y0 = scale(y0, scl), y1 = scale(y1, scl);
             st(out + g + j, y0);
@@ -388,9 +390,9 @@ void column_stages(Gex32fc* d, int nb, int b, const FftSpec* s, Gex32fc* buf, fl
                     auto body = [&](auto tag, int jj) {
                         using V = decltype(tag);
                         V a0 = ld<V>(p0 + jj), a1 = ld<V>(p2 + jj), a2 = ld<V>(p1 + jj), a3 = ld<V>(p3 + jj);
-                        a1 = twiddle<INV>(a1, ld<V>(w[0] + jj));
-                        a2 = twiddle<INV>(a2, ld<V>(w[1] + jj));
-                        a3 = twiddle<INV>(a3, ld<V>(w[2] + jj));
+                        a1 = twiddle<INV>(a1, ldtw<V>(w[0] + jj));
+                        a2 = twiddle<INV>(a2, ldtw<V>(w[1] + jj));
+                        a3 = twiddle<INV>(a3, ldtw<V>(w[2] + jj));
                         dft4<INV>(a0, a1, a2, a3);
                         if (doScale && fin) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
                         st(p0 + jj, a0);

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <type_traits>
 
 #include "gexdefs.h"
 
@@ -146,8 +147,20 @@ inline C8 cmulc(C8 a, C8 w) {
 inline CB cmul(CB a, CB w) { return {cmul(C8{a.v}, C8{w.v}).v}; }
 inline CB cmulc(CB a, CB w) { return {cmulc(C8{a.v}, C8{w.v}).v}; }
 
-template <bool INV, class V>
-inline V twiddle(V a, V w) {
+// A broadcast twiddle of the batched form, real and imaginary parts apart:
+// the product then needs no lane shuffles of the twiddle, and rounds as cmul.
+struct CBW {
+    __m512 wr, wi;
+};
+inline CB cmul(CB a, CBW w) {
+    return {_mm512_fmaddsub_ps(a.v, w.wr, _mm512_mul_ps(_mm512_permute_ps(a.v, 0xB1), w.wi))};
+}
+inline CB cmulc(CB a, CBW w) {
+    return {_mm512_fmsubadd_ps(a.v, w.wr, _mm512_mul_ps(_mm512_permute_ps(a.v, 0xB1), w.wi))};
+}
+
+template <bool INV, class V, class W>
+inline V twiddle(V a, W w) {
     if constexpr (INV) return cmulc(a, w);
     else return cmul(a, w);
 }
@@ -182,7 +195,20 @@ template <>
 inline CB ld<CB>(SPtr p) {
     return {_mm512_loadu_ps(p.base)};
 }
+// Twiddle loads: the value type itself, or CBW for the batched form.
+inline CBW ldw_cb(const Gex32fc* p) { return {_mm512_set1_ps(p->re), _mm512_set1_ps(p->im)}; }
+template <class V>
+inline auto ldtw(const Gex32fc* p) {
+    if constexpr (std::is_same_v<V, CB>) return ldw_cb(p);
+    else return ld<V>(p);
+}
 inline void st(SPtr p, CB a) { _mm512_storeu_ps(p.base, a.v); }
+// Batched sequences are image rows a large power-of-two step apart, which the
+// hardware prefetcher does not follow: the passes that touch them fetch a few
+// elements ahead by hand. No-ops on contiguous data.
+inline void prefetch(SPtr p) { _mm_prefetch(reinterpret_cast<const char*>(p.base), _MM_HINT_T0); }
+inline void prefetch(const Gex32fc*) {}
+constexpr int kPrefetchAhead = 8;
 inline void st(Gex32fc* p, C1 a) {
     p->re = a.re;
     p->im = a.im;
@@ -294,11 +320,18 @@ inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc
         const auto src = in + g;
         const auto dst = out + g;
         for (std::int64_t j = 0; j < L; j += W) {
+            if constexpr (W == 1) {
+                if (j + kPrefetchAhead < L)
+                    for (int t = 0; t < 4; ++t) {
+                        prefetch(src + (j + kPrefetchAhead + t * L));
+                        prefetch(dst + (j + kPrefetchAhead + t * L));
+                    }
+            }
             const Gex32fc* w = tw + (j / 8) * 24 + (j % 8);
             V a0 = ld<V>(src + j), a1 = ld<V>(src + j + 2 * L), a2 = ld<V>(src + j + L), a3 = ld<V>(src + j + 3 * L);
-            a1 = twiddle<INV>(a1, ld<V>(w));
-            a2 = twiddle<INV>(a2, ld<V>(w + 8));
-            a3 = twiddle<INV>(a3, ld<V>(w + 16));
+            a1 = twiddle<INV>(a1, ldtw<V>(w));
+            a2 = twiddle<INV>(a2, ldtw<V>(w + 8));
+            a3 = twiddle<INV>(a3, ldtw<V>(w + 16));
             dft4<INV>(a0, a1, a2, a3);
             if (doScale) {
                 a0 = scale(a0, scl);
