@@ -175,7 +175,10 @@ DftSpec* plan_complex(Ctx& cx, int n, int flag, GexHintAlgorithm hint) {
                 s->primeFact = 1;
                 s->nFactorsM1 = f.count - 1;
             }
-            for (int i = 0; i < f.count; ++i) {
+            // The passes run from the last factor to the first, so the even
+            // radix placed last goes first, where the stride is 1, and the
+            // following passes find strides of 8 or more as soon as possible.
+            for (int i = f.count - 1; i >= 0; --i) {
                 const int r = f.f[i];
                 const std::int64_t m = len / r;
                 const bool expanded = stride < 8;
@@ -345,6 +348,18 @@ inline void butterfly(V* a, int r, const Gex32fc* cs, V* y, V* p, V* q) {
         }
         case 4: dft4<INV>(a[0], a[1], a[2], a[3]); return;
         case 8: dft8<INV>(a); return;
+        case 3:
+            dft_any<INV, V, 3>(a, y, 3, cs, p, q);
+            for (int k = 0; k < 3; ++k) a[k] = y[k];
+            return;
+        case 5:
+            dft_any<INV, V, 5>(a, y, 5, cs, p, q);
+            for (int k = 0; k < 5; ++k) a[k] = y[k];
+            return;
+        case 7:
+            dft_any<INV, V, 7>(a, y, 7, cs, p, q);
+            for (int k = 0; k < 7; ++k) a[k] = y[k];
+            return;
         default:
             dft_any<INV>(a, y, r, cs, p, q);
             for (int k = 0; k < r; ++k) a[k] = y[k];
@@ -447,8 +462,9 @@ void run_primefact(const Gex32fc* src, Gex32fc* dst, const DftSpec* s, Gex8u* bu
         else if (src != dst) out = (fromEnd & 1) ? A : dst;
         else out = (fromEnd & 1) ? A : B;
         const bool fin = fromEnd == 0;
-        if (s->scalarOnly) stockham_pass<INV, true>(in, out, s->factors[i], N, scl, doScale && fin);
-        else stockham_pass<INV, false>(in, out, s->factors[i], N, scl, doScale && fin);
+        const DftFactor& fa = s->factors[P - 1 - i];
+        if (s->scalarOnly) stockham_pass<INV, true>(in, out, fa, N, scl, doScale && fin);
+        else stockham_pass<INV, false>(in, out, fa, N, scl, doScale && fin);
         in = out;
     }
 }
@@ -651,8 +667,9 @@ void fft::dft_run_batch(SPtr src, SPtr dst, const DftSpec* s, Gex8u* buf, bool i
     for (int i = 0; i < P; ++i) {
         const SPtr out = (i % 2 == 0) ? A : dst;
         const bool fin = i == P - 1;
-        if (inv) stockham_elem<true, CB>(in, out, s->factors[i], N, s->normFactor, doScale && fin);
-        else stockham_elem<false, CB>(in, out, s->factors[i], N, s->normFactor, doScale && fin);
+        const DftFactor& fa = s->factors[P - 1 - i];
+        if (inv) stockham_elem<true, CB>(in, out, fa, N, s->normFactor, doScale && fin);
+        else stockham_elem<false, CB>(in, out, fa, N, s->normFactor, doScale && fin);
         in = out;
     }
     if (P % 2 == 1)

@@ -266,8 +266,10 @@ inline void dft8(V* a) {
 // a_j +- a_(r-j) and real coefficients: cs[t] = (cos, sin)(2 pi t / r).
 // y_k = A_k -+ i B_k, y_(r-k) = A_k +- i B_k with A_k = a_0 + sum p_j cos,
 // B_k = sum q_j sin.
-template <bool INV, class V>
-inline void dft_any(const V* a, V* y, int r, const Gex32fc* cs, V* p, V* q) {
+// R > 0 fixes r at compile time (the same operations, unrolled).
+template <bool INV, class V, int R = 0>
+inline void dft_any(const V* a, V* y, int rr, const Gex32fc* cs, V* p, V* q) {
+    const int r = R ? R : rr;
     const int h = (r - 1) / 2;
     V sum = a[0];
     for (int j = 1; j <= h; ++j) {
