@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
 #include "frame/checks.hpp"
@@ -337,41 +338,43 @@ inline C8 bcast1(const Gex32fc* p) {
 }
 
 // Butterfly of radix r on a[] into a[] (in place), any r.
-template <bool INV, class V>
-inline void butterfly(V* a, int r, const Gex32fc* cs, V* y, V* p, V* q) {
+// Butterfly of radix r on a[] (in place); R > 0 fixes the radix at compile
+// time so the pass loops unroll and keep a[] in registers.
+template <bool INV, int R, class V>
+__attribute__((always_inline)) inline void butterfly(V* a, int r, const Gex32fc* cs, V* y, V* p, V* q) {
+    if constexpr (R == 2) {
+        const V t = a[0];
+        a[0] = add(t, a[1]);
+        a[1] = sub(t, a[1]);
+    } else if constexpr (R == 4) {
+        dft4<INV>(a[0], a[1], a[2], a[3]);
+    } else if constexpr (R == 8) {
+        dft8<INV>(a);
+    } else {
+        dft_any<INV, V, R>(a, y, r, cs, p, q);
+        for (int k = 0; k < (R ? R : r); ++k) a[k] = y[k];
+    }
+}
+
+// Runs f<R>() with the factor's radix as a constant where a kernel exists.
+template <class F>
+inline void by_radix(int r, F&& f) {
     switch (r) {
-        case 2: {
-            const V t = a[0];
-            a[0] = add(t, a[1]);
-            a[1] = sub(t, a[1]);
-            return;
-        }
-        case 4: dft4<INV>(a[0], a[1], a[2], a[3]); return;
-        case 8: dft8<INV>(a); return;
-        case 3:
-            dft_any<INV, V, 3>(a, y, 3, cs, p, q);
-            for (int k = 0; k < 3; ++k) a[k] = y[k];
-            return;
-        case 5:
-            dft_any<INV, V, 5>(a, y, 5, cs, p, q);
-            for (int k = 0; k < 5; ++k) a[k] = y[k];
-            return;
-        case 7:
-            dft_any<INV, V, 7>(a, y, 7, cs, p, q);
-            for (int k = 0; k < 7; ++k) a[k] = y[k];
-            return;
-        default:
-            dft_any<INV>(a, y, r, cs, p, q);
-            for (int k = 0; k < r; ++k) a[k] = y[k];
-            return;
+        case 2: f(std::integral_constant<int, 2>{}); return;
+        case 3: f(std::integral_constant<int, 3>{}); return;
+        case 4: f(std::integral_constant<int, 4>{}); return;
+        case 5: f(std::integral_constant<int, 5>{}); return;
+        case 7: f(std::integral_constant<int, 7>{}); return;
+        case 8: f(std::integral_constant<int, 8>{}); return;
+        default: f(std::integral_constant<int, 0>{}); return;
     }
 }
 
 // One self-sorting pass, element by element: the scalar twin (V = C1) and the
 // batched form (V = CB, eight sequences side by side).
-template <bool INV, class V, class PI, class PO>
-void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
-    const int r = f.factor;
+template <bool INV, class V, int R, class PI, class PO>
+void stockham_elem_r(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
+    const int r = R ? R : f.factor;
     const std::int64_t s = f.stride, m = f.n / r, nr = N / r;
     const bool twid = m > 1;
     V a[kMaxRadix], yy[kMaxRadix], p[kMaxRadix / 2 + 1], q[kMaxRadix / 2 + 1];
@@ -380,7 +383,7 @@ void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bo
             const Gex32fc* tw = f.pTw + pp * (r - 1);
             for (std::int64_t qq = 0; qq < s; ++qq) {
                 for (int j = 0; j < r; ++j) a[j] = ld<V>(x + (qq + s * (pp + j * m)));
-                butterfly<INV>(a, r, f.pCs, yy, p, q);
+                butterfly<INV, R>(a, r, f.pCs, yy, p, q);
                 for (int k = 0; k < r; ++k) {
                     V v = a[k];
                     if (twid && k) v = twiddle<INV>(v, ldtw<V>(tw + k - 1));
@@ -392,7 +395,7 @@ void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bo
     } else {
         for (std::int64_t i = 0; i < nr; ++i) {
             for (int j = 0; j < r; ++j) a[j] = ld<V>(x + (i + j * nr));
-            butterfly<INV>(a, r, f.pCs, yy, p, q);
+            butterfly<INV, R>(a, r, f.pCs, yy, p, q);
             for (int k = 0; k < r; ++k) {
                 V v = a[k];
                 if (twid && k) v = twiddle<INV>(v, ldtw<V>(f.pTw + (k - 1) * nr + i));
@@ -403,13 +406,18 @@ void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bo
     }
 }
 
-template <bool INV, bool SCALAR>
-void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
-    const int r = f.factor;
+template <bool INV, class V, class PI, class PO>
+void stockham_elem(PI x, PO y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
+    by_radix(f.factor, [&](auto R) { stockham_elem_r<INV, V, decltype(R)::value>(x, y, f, N, scl, doScale); });
+}
+
+template <bool INV, bool SCALAR, int R>
+void stockham_pass_r(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
+    const int r = R ? R : f.factor;
     const std::int64_t s = f.stride, m = f.n / r, nr = N / r;
     const bool twid = m > 1;
     if constexpr (SCALAR) {
-        stockham_elem<INV, C1>(x, y, f, N, scl, doScale);
+        stockham_elem_r<INV, C1, R>(x, y, f, N, scl, doScale);
     } else {
         C8 a[kMaxRadix], yy[kMaxRadix], p[kMaxRadix / 2 + 1], q[kMaxRadix / 2 + 1];
         if (!f.expanded) {
@@ -418,7 +426,7 @@ void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_
                 for (std::int64_t qq = 0; qq < s; qq += 8) {
                     const int cnt = static_cast<int>(std::min<std::int64_t>(8, s - qq));
                     for (int j = 0; j < r; ++j) a[j] = ld_n(x + qq + s * (pp + j * m), cnt);
-                    butterfly<INV>(a, r, f.pCs, yy, p, q);
+                    butterfly<INV, R>(a, r, f.pCs, yy, p, q);
                     for (int k = 0; k < r; ++k) {
                         C8 v = a[k];
                         if (twid && k) v = twiddle<INV>(v, bcast1(tw + k - 1));
@@ -432,7 +440,7 @@ void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_
                 const int cnt = static_cast<int>(std::min<std::int64_t>(8, nr - i));
                 const __mmask8 lm = static_cast<__mmask8>((1u << cnt) - 1);
                 for (int j = 0; j < r; ++j) a[j] = ld_n(x + i + j * nr, cnt);
-                butterfly<INV>(a, r, f.pCs, yy, p, q);
+                butterfly<INV, R>(a, r, f.pCs, yy, p, q);
                 const __m256i base = _mm256_maskz_loadu_epi32(lm, f.pIdx + i);
                 for (int k = 0; k < r; ++k) {
                     C8 v = a[k];
@@ -444,6 +452,11 @@ void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_
             }
         }
     }
+}
+
+template <bool INV, bool SCALAR>
+void stockham_pass(const Gex32fc* x, Gex32fc* y, const DftFactor& f, std::int64_t N, float scl, bool doScale) {
+    by_radix(f.factor, [&](auto R) { stockham_pass_r<INV, SCALAR, decltype(R)::value>(x, y, f, N, scl, doScale); });
 }
 
 template <bool INV>
