@@ -350,6 +350,8 @@ __attribute__((always_inline)) inline void butterfly(V* a, int r, const Gex32fc*
         dft4<INV>(a[0], a[1], a[2], a[3]);
     } else if constexpr (R == 8) {
         dft8<INV>(a);
+    } else if constexpr (R == 16) {
+        dft16<INV>(a);
     } else {
         dft_any<INV, V, R>(a, y, r, cs, p, q);
         for (int k = 0; k < (R ? R : r); ++k) a[k] = y[k];
@@ -366,6 +368,7 @@ inline void by_radix(int r, F&& f) {
         case 5: f(std::integral_constant<int, 5>{}); return;
         case 7: f(std::integral_constant<int, 7>{}); return;
         case 8: f(std::integral_constant<int, 8>{}); return;
+        case 16: f(std::integral_constant<int, 16>{}); return;
         default: f(std::integral_constant<int, 0>{}); return;
     }
 }

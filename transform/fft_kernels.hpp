@@ -7,6 +7,7 @@
 
 #include <immintrin.h>
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <type_traits>
@@ -259,6 +260,51 @@ inline void dft8(V* a) {
     for (int m = 0; m < 4; ++m) {
         a[2 * m] = b[m];
         a[2 * m + 1] = d[m];
+    }
+}
+
+// A constant complex value in every lane.
+template <class V>
+inline V cst(float re, float im);
+template <>
+inline C1 cst<C1>(float re, float im) {
+    return {re, im};
+}
+template <>
+inline C8 cst<C8>(float re, float im) {
+    return {_mm512_castpd_ps(_mm512_set1_pd(std::bit_cast<double>(C1{re, im})))};
+}
+template <>
+inline CB cst<CB>(float re, float im) {
+    return {cst<C8>(re, im).v};
+}
+
+// 16-point DFT in place on a[0..15]: 4-point DFTs over j2 (j = j1 + 4 j2),
+// twiddles w16^(j1 k2), 4-point DFTs over j1; y[4 k1 + k2].
+template <bool INV, class V>
+inline void dft16(V* a) {
+    constexpr float c1 = 0.92387953251128675613f, s1 = 0.38268343236508977173f, h = 0.70710678118654752440f;
+    V b[16];
+    for (int j1 = 0; j1 < 4; ++j1) {
+        V x0 = a[j1], x1 = a[j1 + 4], x2 = a[j1 + 8], x3 = a[j1 + 12];
+        dft4<INV>(x0, x1, x2, x3);
+        b[4 * j1] = x0, b[4 * j1 + 1] = x1, b[4 * j1 + 2] = x2, b[4 * j1 + 3] = x3;
+    }
+    // w16^t, t = j1 k2, forward exp(-2 pi i t / 16)
+    const V w1 = cst<V>(c1, -s1), w2 = cst<V>(h, -h), w3 = cst<V>(s1, -c1), w6 = cst<V>(-h, -h), w9 = cst<V>(-c1, s1);
+    b[5] = twiddle<INV>(b[5], w1);
+    b[6] = twiddle<INV>(b[6], w2);
+    b[7] = twiddle<INV>(b[7], w3);
+    b[9] = twiddle<INV>(b[9], w2);
+    b[10] = rot<INV>(b[10]);
+    b[11] = twiddle<INV>(b[11], w6);
+    b[13] = twiddle<INV>(b[13], w3);
+    b[14] = twiddle<INV>(b[14], w6);
+    b[15] = twiddle<INV>(b[15], w9);
+    for (int k2 = 0; k2 < 4; ++k2) {
+        V x0 = b[k2], x1 = b[4 + k2], x2 = b[8 + k2], x3 = b[12 + k2];
+        dft4<INV>(x0, x1, x2, x3);
+        a[k2] = x0, a[4 + k2] = x1, a[8 + k2] = x2, a[12 + k2] = x3;
     }
 }
 

@@ -106,7 +106,7 @@ TEST(Fft1d, AccuracyPowersOfTwo) {
 }
 
 TEST(Fft1d, AccuracyAnyLength) {
-    const int lengths[] = {1, 3, 5, 6, 7, 9, 12, 15, 17, 18, 30, 47, 49, 53, 100, 144, 298, 480, 596, 640, 1000, 1009, 2000};
+    const int lengths[] = {1, 3, 5, 6, 7, 9, 12, 15, 17, 18, 30, 47, 49, 53, 100, 144, 240, 298, 480, 596, 640, 720, 1000, 1009, 2000};
     for (int n : lengths) {
         const Dft1 f(n, 8, false);
         ASSERT_EQ(f.st, 0) << n;
@@ -169,7 +169,7 @@ TEST(Fft1d, VectorKernelsMatchScalarTwins) {
             EXPECT_EQ(std::memcmp(a.data(), b.data(), n * sizeof(Gex32fc)), 0) << "order " << order;
         }
     }
-    for (int n : {18, 100, 298, 480, 596, 1000, 3 * 5 * 7 * 11}) {
+    for (int n : {18, 100, 240, 298, 480, 596, 720, 1000, 3 * 5 * 7 * 11}) {
         Dft1 v(n, 1, false), s(n, 1, false);
         gex::dft_force_scalar(s.s);
         const auto x = random_complex(n, 12);
