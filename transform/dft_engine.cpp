@@ -17,7 +17,6 @@
 #include <cmath>
 #include <cstring>
 #include <type_traits>
-#include <vector>
 
 #include "frame/checks.hpp"
 #include "transform/fft_engine.hpp"
@@ -66,17 +65,36 @@ struct Factors {
 
 // Splits n: 4s first, a 2 in front (with a 4 moved behind), then odd trial
 // divisors 3..49 while d * d <= rest; 2 and a following 3 merge into 6.
+// A short list on the stack (planning allocates nothing).
+struct Slots {
+    int v[40];
+    int n = 0;
+    void push_back(int x) { v[n++] = x; }
+    void push_front(int x) {
+        for (int i = n; i > 0; --i) v[i] = v[i - 1];
+        v[0] = x;
+        ++n;
+    }
+    void erase_second() {
+        for (int i = 1; i + 1 < n; ++i) v[i] = v[i + 1];
+        --n;
+    }
+    bool empty() const { return n == 0; }
+    std::size_t size() const { return static_cast<std::size_t>(n); }
+    int& operator[](int i) { return v[i]; }
+};
+
 Factors factorise(int n) {
     Factors r;
     int rest = n;
-    std::vector<int> slots;
+    Slots slots;
     while (rest % 4 == 0) {
         slots.push_back(4);
         rest /= 4;
     }
     if (rest % 2 == 0) {
         rest /= 2;
-        slots.insert(slots.begin(), 2);
+        slots.push_front(2);
     }
     for (int d = 3; d * d <= rest && d <= 49; d += 2) {
         while (rest % d == 0) {
@@ -94,10 +112,10 @@ Factors factorise(int n) {
     if (r.pf) {
         if (slots.size() >= 2 && slots[1] == 4 && slots[0] != 6) {
             slots[0] *= 4;
-            slots.erase(slots.begin() + 1);
+            slots.erase_second();
         }
         const int f0 = slots[0];
-        if (f0 == 2 || f0 == 4 || f0 == 6 || f0 == 8 || f0 == 16) std::swap(slots.front(), slots.back());
+        if (f0 == 2 || f0 == 4 || f0 == 6 || f0 == 8 || f0 == 16) std::swap(slots[0], slots[slots.n - 1]);
     }
     r.count = static_cast<int>(slots.size());
     for (int i = 0; i < r.count && i < kMaxFactors; ++i) r.f[i] = slots[i];
@@ -487,7 +505,7 @@ void run_primefact(const Gex32fc* src, Gex32fc* dst, const DftSpec* s, Gex8u* bu
 
 template <bool INV>
 void run_direct(const Gex32fc* src, Gex32fc* dst, int n, const Gex32fc* cs, Gex8u* buf, float scl, bool doScale) {
-    C1 a[64], y[64], p[33], q[33];
+    C1 a[64] = {}, y[64], p[33], q[33];
     (void)buf;
     for (int i = 0; i < n; ++i) a[i] = ld<C1>(src + i);
     if (n == 1) {
