@@ -282,30 +282,38 @@ void radix4_passes_t(P t, P out, int c, const Gex32fc* tw, float scl, bool doSca
     const std::int64_t n = std::int64_t{1} << c;
     std::int64_t L;
     auto last = [&](std::int64_t span) { return span * 4 > n / 4; };
+    using V = std::conditional_t<MODE == 0, C8, std::conditional_t<MODE == 1, C1, CB>>;
     if ((c - 2) & 1) {
         const bool fin = 8 > n / 4;
         const P o = fin ? out : t;
-        if constexpr (MODE == 1) r2_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
-        else if constexpr (MODE == 2) r2_pass_c1<INV, CB>(t, o, n, tw, scl, doScale && fin);
-        else r2_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
+        if constexpr (MODE == 0) r2_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
+        else r2_pass_c1<INV, V>(t, o, n, tw, scl, doScale && fin);
         tw += 4;
         L = 8;
-    } else {
+    } else if (MODE == 0 || 16 > n / 4) {
         const bool fin = last(4);
         const P o = fin ? out : t;
-        if constexpr (MODE == 1) l4_pass_c1<INV>(t, o, n, tw, scl, doScale && fin);
-        else if constexpr (MODE == 2) l4_pass_c1<INV, CB>(t, o, n, tw, scl, doScale && fin);
-        else l4_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
+        if constexpr (MODE == 0) l4_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
+        else l4_pass_c1<INV, V>(t, o, n, tw, scl, doScale && fin);
         tw += 12;
         L = 16;
+    } else {
+        L = 4;
     }
-    for (; L <= n / 4; L *= 4) {
-        const bool fin = last(L);
-        const P o = fin ? out : t;
-        if constexpr (MODE == 1) r4_pass<INV, C1>(t, o, n, L, tw, scl, doScale && fin);
-        else if constexpr (MODE == 2) r4_pass<INV, CB>(t, o, n, L, tw, scl, doScale && fin);
-        else r4_pass<INV, C8>(t, o, n, L, tw, scl, doScale && fin);
-        tw += 3 * L;
+    // the remaining spans two at a time, a last single one if their count is odd
+    while (L <= n / 4) {
+        if (4 * L <= n / 4) {
+            const bool fin = last(4 * L);
+            const P o = fin ? out : t;
+            const Gex32fc* twB = tw + 3 * L;
+            r4x2_pass<INV, V>(t, o, n, L, tw, twB, scl, doScale && fin);
+            tw = twB + 12 * L;
+            L *= 16;
+        } else {  // 4L would exceed n/4: this span is the last one
+            r4_pass<INV, V>(t, out, n, L, tw, scl, doScale);
+            tw += 3 * L;
+            L *= 4;
+        }
     }
 }
 
