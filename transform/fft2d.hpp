@@ -3,8 +3,13 @@
 //
 // Real forward: every row to its 1-D Pack, then column 0 (and column W-1 for
 // even W) as real columns, and the interior column pairs as complex columns.
-// Columns are gathered into the work buffer, in groups of 8 complex columns
-// (both sizes above 450: through a transposing copy), then 4, then single ones.
+// Eight neighbouring complex columns (64 bytes a row) run side by side when
+// the column plan allows it (radix-4 and prime-factor plans): the batched
+// transform reads them from the rows and writes them back, the work buffer
+// holding the passes between. Otherwise, and for the columns left over,
+// columns are gathered into the work buffer in groups of 8 (both sizes above
+// 450: through a transposing copy), then 4, then single ones. Either way
+// every column gets the bits of its one-column transform.
 // Inverse: the same steps in reverse, columns read from the source and
 // written to the destination, then every row in place. Multi-channel images
 // run the same per channel; AC4 never reads or writes the fourth channel.

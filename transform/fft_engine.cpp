@@ -5,7 +5,8 @@
 //   7..18  decimation in time: a first radix-4 pass that reads columns of the
 //          input and writes its groups in bit-reversed order, then radix-4
 //          passes (one radix-2 pass when the stage count is odd) with their
-//          twiddles laid out in pass order; the last pass scales;
+//          twiddles laid out in pass order, two spans fused per sweep where
+//          the registers allow; the last pass scales;
 //   19..28 the tiled path: bit reversal in 64 x 64 tiles, 2^b contiguous
 //          sub-transforms (recursively while they are above order 18), then
 //          the last b stages on groups of 64 columns gathered into the work
