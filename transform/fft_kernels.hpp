@@ -414,10 +414,6 @@ inline void r4x2_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32
         const auto src = in + g;
         const auto dst = out + g;
         for (std::int64_t j = 0; j < L; j += W) {
-            if constexpr (W == 1) {
-                if (j + kPrefetchAhead < L)
-                    for (int u = 0; u < 16; ++u) prefetch(src + (j + kPrefetchAhead + u * L));
-            }
             V e[16];
             for (int u = 0; u < 16; ++u) e[u] = ld<V>(src + (j + u * L));
             for (int b = 0; b < 4; ++b) {  // span L
