@@ -208,6 +208,53 @@ void first_pass_inplace(Gex32fc* d, std::int64_t n) {
     }
 }
 
+// Odd stage counts: the first pass and the radix-2 pass in one sweep. The
+// columns r and r + n/8 feed the neighbouring groups 2G, 2G + 1 (G the
+// reversed r), which the radix-2 step combines with w8^f; the operations are
+// those of the two passes one after the other.
+template <bool INV, class V = C1, class PI, class PO>
+void first8_pass_c1(PI src, PO dst, std::int64_t n, const std::int32_t* br, const Gex32fc* tw2) {
+    const std::int64_t q = n / 4, q8 = n / 8;
+    for (std::int64_t r = 0; r < q8; ++r) {
+        V a0 = ld<V>(src + r), a1 = ld<V>(src + r + q), a2 = ld<V>(src + r + 2 * q), a3 = ld<V>(src + r + 3 * q);
+        V b0 = ld<V>(src + r + q8), b1 = ld<V>(src + r + q8 + q), b2 = ld<V>(src + r + q8 + 2 * q),
+          b3 = ld<V>(src + r + q8 + 3 * q);
+        dft4<INV>(a0, a1, a2, a3);
+        dft4<INV>(b0, b1, b2, b3);
+        const V A[4] = {a0, a1, a2, a3};
+        const V B[4] = {b0, b1, b2, b3};
+        const auto d = dst + 4 * std::int64_t{br[r]};
+        for (int f = 0; f < 4; ++f) {
+            const V t = twiddle<INV>(B[f], ldtw<V>(tw2 + f));
+            st(d + f, add(A[f], t));
+            st(d + (f + 4), sub(A[f], t));
+        }
+    }
+}
+
+template <bool INV>
+void first8_pass_c8(const Gex32fc* src, Gex32fc* dst, std::int64_t n, const std::int32_t* br, const Gex32fc* tw2) {
+    const std::int64_t q = n / 4, q8 = n / 8;
+    for (std::int64_t r = 0; r < q8; r += 8) {
+        C8 a0 = ld<C8>(src + r), a1 = ld<C8>(src + r + q), a2 = ld<C8>(src + r + 2 * q), a3 = ld<C8>(src + r + 3 * q);
+        C8 b0 = ld<C8>(src + r + q8), b1 = ld<C8>(src + r + q8 + q), b2 = ld<C8>(src + r + q8 + 2 * q),
+           b3 = ld<C8>(src + r + q8 + 3 * q);
+        dft4<INV>(a0, a1, a2, a3);
+        dft4<INV>(b0, b1, b2, b3);
+        const C8 A[4] = {a0, a1, a2, a3};
+        const C8 B[4] = {b0, b1, b2, b3};
+        __m512d o[8], t[8];
+        for (int f = 0; f < 4; ++f) {
+            const C8 w = {_mm512_castpd_ps(_mm512_set1_pd(*reinterpret_cast<const double*>(tw2 + f)))};
+            const C8 tb = twiddle<INV>(B[f], w);
+            o[f] = _mm512_castps_pd(add(A[f], tb).v);
+            o[f + 4] = _mm512_castps_pd(sub(A[f], tb).v);
+        }
+        transpose8x8(o, t);  // t[l]: the eight outputs of column r + l
+        for (int l = 0; l < 8; ++l) _mm512_storeu_pd(reinterpret_cast<double*>(dst + 4 * std::int64_t{br[r + l]}), t[l]);
+    }
+}
+
 template <bool INV, class V = C1, class PI, class PO>
 void l4_pass_c1(PI in, PO out, std::int64_t n, const Gex32fc* tw, float scl, bool doScale) {
     for (std::int64_t g = 0; g < n; g += 16)
@@ -279,12 +326,15 @@ void r2_pass_c8(const Gex32fc* in, Gex32fc* out, std::int64_t n, const Gex32fc* 
 // out: radix-2 (odd stage count), then radix-4 spans up to n/4. `mode` 0 runs
 // the 512-bit kernels, 1 their scalar twins, 2 the batched form (P = SPtr).
 template <bool INV, int MODE, class P>
-void radix4_passes_t(P t, P out, int c, const Gex32fc* tw, float scl, bool doScale) {
+void radix4_passes_t(P t, P out, int c, const Gex32fc* tw, float scl, bool doScale, bool r2Done = false) {
     const std::int64_t n = std::int64_t{1} << c;
     std::int64_t L;
     auto last = [&](std::int64_t span) { return span * 4 > n / 4; };
     using V = std::conditional_t<MODE == 0, C8, std::conditional_t<MODE == 1, C1, CB>>;
-    if ((c - 2) & 1) {
+    if (((c - 2) & 1) && r2Done) {
+        tw += 4;
+        L = 8;
+    } else if ((c - 2) & 1) {
         const bool fin = 8 > n / 4;
         const P o = fin ? out : t;
         if constexpr (MODE == 0) r2_pass_c8<INV>(t, o, n, tw, scl, doScale && fin);
@@ -319,9 +369,10 @@ void radix4_passes_t(P t, P out, int c, const Gex32fc* tw, float scl, bool doSca
 }
 
 template <bool INV>
-void radix4_passes(Gex32fc* t, Gex32fc* out, int c, const Gex32fc* tw, float scl, bool doScale, bool scalar) {
-    if (scalar) radix4_passes_t<INV, 1>(t, out, c, tw, scl, doScale);
-    else radix4_passes_t<INV, 0>(t, out, c, tw, scl, doScale);
+void radix4_passes(Gex32fc* t, Gex32fc* out, int c, const Gex32fc* tw, float scl, bool doScale, bool scalar,
+                   bool r2Done = false) {
+    if (scalar) radix4_passes_t<INV, 1>(t, out, c, tw, scl, doScale, r2Done);
+    else radix4_passes_t<INV, 0>(t, out, c, tw, scl, doScale, r2Done);
 }
 
 // ---- large path ----
@@ -444,9 +495,15 @@ void run_complex(const Gex32fc* src, Gex32fc* dst, const FftSpec* s, Gex8u* buf,
         case kFftRadix4: {
             const std::int64_t n = std::int64_t{1} << c;
             Gex32fc* t = (src == dst) ? wb : dst;
-            if (scalar) first_pass_c1<INV>(src, t, n, s->pBitRev);
-            else first_pass_c8<INV>(src, t, n, s->pBitRev);
-            radix4_passes<INV>(t, dst, c, s->pTwiddle, scl, doScale, scalar);
+            const bool odd = (c - 2) & 1;
+            if (odd) {
+                if (scalar) first8_pass_c1<INV>(src, t, n, s->pBitRev, s->pTwiddle);
+                else first8_pass_c8<INV>(src, t, n, s->pBitRev, s->pTwiddle);
+            } else {
+                if (scalar) first_pass_c1<INV>(src, t, n, s->pBitRev);
+                else first_pass_c8<INV>(src, t, n, s->pBitRev);
+            }
+            radix4_passes<INV>(t, dst, c, s->pTwiddle, scl, doScale, scalar, odd);
             return;
         }
         default:
@@ -728,12 +785,15 @@ void fft::fft_run_batch(SPtr src, SPtr dst, const FftSpec* s, Gex8u* buf, bool i
     const std::int64_t n = std::int64_t{1} << c;
     const bool doScale = inv ? s->scaleInv != 0 : s->scaleFwd != 0;
     const SPtr t = {align64(buf), 64};
+    const bool odd = (c - 2) & 1;
     if (inv) {
-        first_pass_c1<true, CB>(src, t, n, s->pBitRev);
-        radix4_passes_t<true, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale);
+        if (odd) first8_pass_c1<true, CB>(src, t, n, s->pBitRev, s->pTwiddle);
+        else first_pass_c1<true, CB>(src, t, n, s->pBitRev);
+        radix4_passes_t<true, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale, odd);
     } else {
-        first_pass_c1<false, CB>(src, t, n, s->pBitRev);
-        radix4_passes_t<false, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale);
+        if (odd) first8_pass_c1<false, CB>(src, t, n, s->pBitRev, s->pTwiddle);
+        else first_pass_c1<false, CB>(src, t, n, s->pBitRev);
+        radix4_passes_t<false, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale, odd);
     }
 }
 

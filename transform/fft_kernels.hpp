@@ -395,6 +395,27 @@ inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc
     }
 }
 
+// Transposition of 8 x 8 64-bit elements in registers: r[k] lane l -> t[l] lane k.
+inline void transpose8x8(const __m512d* r_in, __m512d* t) {
+    __m512d r[8];
+    for (int i = 0; i < 8; i += 2) {
+        r[i] = _mm512_unpacklo_pd(r_in[i], r_in[i + 1]);
+        r[i + 1] = _mm512_unpackhi_pd(r_in[i], r_in[i + 1]);
+    }
+    const __m512i a = _mm512_setr_epi64(0, 1, 8, 9, 4, 5, 12, 13), b = _mm512_setr_epi64(2, 3, 10, 11, 6, 7, 14, 15);
+    __m512d u[8];
+    for (int i = 0; i < 8; i += 4)
+        for (int j = 0; j < 2; ++j) {
+            u[i + j] = _mm512_permutex2var_pd(r[i + j], a, r[i + j + 2]);
+            u[i + j + 2] = _mm512_permutex2var_pd(r[i + j], b, r[i + j + 2]);
+        }
+    const __m512i c = _mm512_setr_epi64(0, 1, 2, 3, 8, 9, 10, 11), d = _mm512_setr_epi64(4, 5, 6, 7, 12, 13, 14, 15);
+    for (int j = 0; j < 4; ++j) {
+        t[j] = _mm512_permutex2var_pd(u[j], c, u[j + 4]);
+        t[j + 4] = _mm512_permutex2var_pd(u[j], d, u[j + 4]);
+    }
+}
+
 // Index of w_(4L)^(j t) in the table of the radix-4 pass of span L.
 inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
     const std::int64_t B = L < 8 ? L : 8;
