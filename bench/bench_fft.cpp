@@ -96,7 +96,7 @@ struct Ours {
             gexiPackToCplxExtend_32f32fc_C1R(dst.data(), {c.width, c.height}, step,
                                              reinterpret_cast<Gex32fc*>(f.data()), c.width * 8);
         } else {
-            std::memcpy(f.data(), dst.data(), f.size() * 8);
+            std::memcpy(static_cast<void*>(f.data()), dst.data(), f.size() * 8);
         }
         return f;
     }

@@ -12,6 +12,12 @@
 
 #include "gexdefs.h"
 
+// GCC 12 takes the undefined start vector inside its own shuffle intrinsics
+// for an uninitialised variable; the warning is about the compiler's headers.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+
 namespace gex::cplx {
 
 inline void magnitude_row_scalar(const Gex32fc* s, Gex32f* d, std::int64_t n) {
@@ -44,3 +50,5 @@ inline void polar_row(const Gex32f* m, const Gex32f* p, Gex32fc* d, std::int64_t
 }
 
 }  // namespace gex::cplx
+
+#pragma GCC diagnostic pop

@@ -11,6 +11,12 @@
 
 #include "gexdefs.h"
 
+// GCC 12 takes the undefined start vector inside its own shuffle intrinsics
+// for an uninitialised variable; the warning is about the compiler's headers.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+
 namespace gex {
 
 namespace fftk {
@@ -191,3 +197,5 @@ void dft_force_scalar(DftSpec* s);
 int dft_plan_of(int length);
 
 }  // namespace gex
+
+#pragma GCC diagnostic pop

@@ -14,6 +14,12 @@
 
 #include "gexdefs.h"
 
+// GCC 12 takes the undefined start vector inside its own shuffle intrinsics
+// for an uninitialised variable; the warning is about the compiler's headers.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+
 namespace gex::fftk {
 
 // ---- compile-time trigonometry for the table-free small kernels ----------
@@ -461,3 +467,5 @@ inline void r4x2_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32
 }
 
 }  // namespace gex::fftk
+
+#pragma GCC diagnostic pop
