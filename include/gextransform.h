@@ -33,35 +33,48 @@ GexStatus gexiFFTInit_R_32f(int orderX, int orderY, int flag, GexHintAlgorithm h
 GexStatus gexiFFTInit_C_32fc(int orderX, int orderY, int flag, GexHintAlgorithm hint, GexiFFTSpec* pSpec,
                              Gex8u* pInitBuffer);
 
-#define GEX_FFT2D_REAL_(fam, dir)                                                                                  \
-    GexStatus gexi##fam##dir##_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,                 \
-                                       const Gexi##fam##Spec* pSpec, Gex8u* pBuffer);                              \
-    GexStatus gexi##fam##dir##_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,                 \
-                                       const Gexi##fam##Spec* pSpec, Gex8u* pBuffer);                              \
-    GexStatus gexi##fam##dir##_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,                 \
-                                       const Gexi##fam##Spec* pSpec, Gex8u* pBuffer);                              \
-    GexStatus gexi##fam##dir##_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,                \
-                                        const Gexi##fam##Spec* pSpec, Gex8u* pBuffer);                             \
-    GexStatus gexi##fam##dir##_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, const Gexi##fam##Spec* pSpec,             \
-                                        Gex8u* pBuffer);                                                           \
-    GexStatus gexi##fam##dir##_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, const Gexi##fam##Spec* pSpec,             \
-                                        Gex8u* pBuffer);                                                           \
-    GexStatus gexi##fam##dir##_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, const Gexi##fam##Spec* pSpec,             \
-                                        Gex8u* pBuffer);                                                           \
-    GexStatus gexi##fam##dir##_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, const Gexi##fam##Spec* pSpec,            \
-                                         Gex8u* pBuffer);
-#define GEX_FFT2D_CPLX_(fam, dir)                                                                                  \
-    GexStatus gexi##fam##dir##_CToC_32fc_C1R(const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep,         \
-                                             const Gexi##fam##Spec* pSpec, Gex8u* pBuffer);                        \
-    GexStatus gexi##fam##dir##_CToC_32fc_C1IR(Gex32fc* pSrcDst, int srcDstStep, const Gexi##fam##Spec* pSpec,      \
-                                              Gex8u* pBuffer);
-
 /* Real forward to Pack, Pack inverse to real; C3/C4/AC4 transform each channel
  * (AC4: the fourth channel is neither read nor written). */
-GEX_FFT2D_REAL_(FFT, Fwd_RToPack)
-GEX_FFT2D_REAL_(FFT, Inv_PackToR)
-GEX_FFT2D_CPLX_(FFT, Fwd)
-GEX_FFT2D_CPLX_(FFT, Inv)
+GexStatus gexiFFTFwd_RToPack_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                      const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTFwd_RToPack_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                       Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                      const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiFFTInv_PackToR_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                       Gex8u* pBuffer);
+GexStatus gexiFFTFwd_CToC_32fc_C1R(const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep,
+                                   const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTFwd_CToC_32fc_C1IR(Gex32fc* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                    Gex8u* pBuffer);
+GexStatus gexiFFTInv_CToC_32fc_C1R(const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep,
+                                   const GexiFFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiFFTInv_CToC_32fc_C1IR(Gex32fc* pSrcDst, int srcDstStep, const GexiFFTSpec* pSpec,
+                                    Gex8u* pBuffer);
 
 /* DFT: any size roiSize.width x roiSize.height. */
 GexStatus gexiDFTGetSize_R_32f(GexiSize roiSize, int flag, GexHintAlgorithm hint, int* pSpecSize, int* pInitSize,
@@ -73,38 +86,83 @@ GexStatus gexiDFTInit_R_32f(GexiSize roiSize, int flag, GexHintAlgorithm hint, G
 GexStatus gexiDFTInit_C_32fc(GexiSize roiSize, int flag, GexHintAlgorithm hint, GexiDFTSpec* pSpec,
                              Gex8u* pInitBuffer);
 
-GEX_FFT2D_REAL_(DFT, Fwd_RToPack)
-GEX_FFT2D_REAL_(DFT, Inv_PackToR)
-GEX_FFT2D_CPLX_(DFT, Fwd)
-GEX_FFT2D_CPLX_(DFT, Inv)
-
-#undef GEX_FFT2D_REAL_
-#undef GEX_FFT2D_CPLX_
+GexStatus gexiDFTFwd_RToPack_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                      const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTFwd_RToPack_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                       Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C1R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C3R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                     const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_AC4R(const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep,
+                                      const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C1IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C3IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_C4IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                      Gex8u* pBuffer);
+GexStatus gexiDFTInv_PackToR_32f_AC4IR(Gex32f* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                       Gex8u* pBuffer);
+GexStatus gexiDFTFwd_CToC_32fc_C1R(const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep,
+                                   const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTFwd_CToC_32fc_C1IR(Gex32fc* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                    Gex8u* pBuffer);
+GexStatus gexiDFTInv_CToC_32fc_C1R(const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep,
+                                   const GexiDFTSpec* pSpec, Gex8u* pBuffer);
+GexStatus gexiDFTInv_CToC_32fc_C1IR(Gex32fc* pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec,
+                                    Gex8u* pBuffer);
 
 /* ---- Products of Pack spectra ------------------------------------------------
  * MulPack: pDst = pSrc1 * pSrc2 element by element in the Pack layout (complex
  * products of the complex entries, plain products of the real ones).
  * MulPackConj: pSrc1 * conj(pSrc2). In-place forms: pSrcDst = pSrc op pSrcDst. */
-#define GEX_MULPACK_(name)                                                                                         \
-    GexStatus gexi##name##_32f_C1R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,           \
-                                   Gex32f* pDst, int dstStep, GexiSize roiSize);                                   \
-    GexStatus gexi##name##_32f_C3R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,           \
-                                   Gex32f* pDst, int dstStep, GexiSize roiSize);                                   \
-    GexStatus gexi##name##_32f_C4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,           \
-                                   Gex32f* pDst, int dstStep, GexiSize roiSize);                                   \
-    GexStatus gexi##name##_32f_AC4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,          \
-                                    Gex32f* pDst, int dstStep, GexiSize roiSize);                                  \
-    GexStatus gexi##name##_32f_C1IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,              \
-                                    GexiSize roiSize);                                                             \
-    GexStatus gexi##name##_32f_C3IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,              \
-                                    GexiSize roiSize);                                                             \
-    GexStatus gexi##name##_32f_C4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,              \
-                                    GexiSize roiSize);                                                             \
-    GexStatus gexi##name##_32f_AC4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,             \
-                                     GexiSize roiSize);
-GEX_MULPACK_(MulPack)
-GEX_MULPACK_(MulPackConj)
-#undef GEX_MULPACK_
+GexStatus gexiMulPack_32f_C1R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                              Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPack_32f_C3R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                              Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPack_32f_C4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                              Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPack_32f_AC4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                               Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPack_32f_C1IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                               GexiSize roiSize);
+GexStatus gexiMulPack_32f_C3IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                               GexiSize roiSize);
+GexStatus gexiMulPack_32f_C4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                               GexiSize roiSize);
+GexStatus gexiMulPack_32f_AC4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                                GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C1R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                                  Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C3R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                                  Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                                  Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_AC4R(const Gex32f* pSrc1, int src1Step, const Gex32f* pSrc2, int src2Step,
+                                   Gex32f* pDst, int dstStep, GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C1IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                                   GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C3IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                                   GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_C4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                                   GexiSize roiSize);
+GexStatus gexiMulPackConj_32f_AC4IR(const Gex32f* pSrc, int srcStep, Gex32f* pSrcDst, int srcDstStep,
+                                    GexiSize roiSize);
 
 /* ---- Magnitude and phase of Pack spectra (full-size W x H output) ---- */
 GexStatus gexiMagnitudePackGetBufferSize_32f(int numChannels, GexiSize dstRoiSize, int* pSize);

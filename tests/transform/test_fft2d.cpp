@@ -343,9 +343,10 @@ TEST(Transform2d, ChannelsAndAlpha) {
                                 ASSERT_TRUE(gextest::same_bits(dst.at(c, r, ch), res.at(c, r)))
                                     << "channel " << ch << " code " << code << " " << s.w << "x" << s.h;
                     }
-                    if (code == 5)
+                    if (code == 5) {
                         for (int r = 0; r < s.h; ++r)
                             for (int c = 0; c < s.w; ++c) ASSERT_EQ(dst.at(c, r, 3), 77.0f + c);
+                    }
                     // in place gives the same bits
                     for (int r = 0; r < s.h; ++r)
                         for (int c = 0; c < s.w; ++c)

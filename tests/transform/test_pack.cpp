@@ -100,9 +100,10 @@ TEST(MulPack, MatchesTheFormulasExactly) {
                         ASSERT_TRUE(gextest::same_bits(d.at(s.c1, s.r1, ch), re)) << W << "x" << H << " form " << f.code;
                         ASSERT_TRUE(gextest::same_bits(d.at(s.c2, s.r2, ch), im)) << W << "x" << H << " form " << f.code;
                     }
-                if (f.code == 5)
+                if (f.code == 5) {
                     for (int y = 0; y < H; ++y)
                         for (int x = 0; x < W; ++x) ASSERT_EQ(d.at(x, y, 3), -5.0f);
+                }
                 // in place: pSrcDst is b
                 for (int y = 0; y < H; ++y) std::memcpy(ip.row(y), b.row(y), sizeof(float) * W * C);
                 if (f.code == 5)
@@ -242,7 +243,9 @@ TEST(PackExtend, FullSpectrumAndExactRoundTrip) {
             for (const Slot& s : slots(W, H))
                 for (int ch = 0; ch < 3; ++ch) {
                     ASSERT_EQ(back3.at(s.c1, s.r1, ch), pk.at(s.c1, s.r1) + ch);
-                    if (!s.real) ASSERT_EQ(back3.at(s.c2, s.r2, ch), pk.at(s.c2, s.r2) - ch);
+                    if (!s.real) {
+                        ASSERT_EQ(back3.at(s.c2, s.r2, ch), pk.at(s.c2, s.r2) - ch);
+                    }
                 }
         }
 }
