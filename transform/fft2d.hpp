@@ -131,11 +131,10 @@ struct RealCols {
 // between columns, `ri` floats from real to imaginary part.
 template <class E>
 void column_group(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64_t dstep, int H, std::int64_t base,
-                  std::int64_t cstride, std::int64_t ri, int G, const void* colC, Gex8u* buf, bool inv, bool wide,
-                  const std::int32_t* rmap = nullptr) {
+                  std::int64_t cstride, std::int64_t ri, int G, const void* colC, Gex8u* buf, bool inv, bool wide) {
     Gex32fc* g = reinterpret_cast<Gex32fc*>(fft::align64(buf));
     Gex8u* rest = reinterpret_cast<Gex8u*>(g + fft::align64up(std::int64_t{G} * H * 8) / 8);
-    const bool fast8 = wide && G == 8 && cstride == 2 && ri == 1 && rmap == nullptr;
+    const bool fast8 = wide && G == 8 && cstride == 2 && ri == 1;
     int y = 0;
     // Rows a power-of-two step apart defeat the hardware prefetcher: fetch
     // the rows of the transposition two blocks ahead by hand.
@@ -148,7 +147,7 @@ void column_group(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
                          reinterpret_cast<double*>(g + y), H);
         }
     for (; y < H; ++y) {
-        const Gex32f* r = row(src, sstep, rmap ? rmap[y] : y) + base;
+        const Gex32f* r = row(src, sstep, y) + base;
         for (int k = 0; k < G; ++k) g[std::int64_t{k} * H + y] = {r[k * cstride], r[k * cstride + ri]};
     }
     for (int k = 0; k < G; ++k) E::runC(g + std::int64_t{k} * H, g + std::int64_t{k} * H, colC, rest, inv);
@@ -163,7 +162,7 @@ void column_group(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
             transpose8x8(tmp, 8, reinterpret_cast<double*>(row(dst, dstep, y) + base), dstep / 8);
         }
     for (; y < H; ++y) {
-        Gex32f* r = row(dst, dstep, rmap ? rmap[y] : y) + base;
+        Gex32f* r = row(dst, dstep, y) + base;
         for (int k = 0; k < G; ++k) {
             const Gex32fc v = g[std::int64_t{k} * H + y];
             r[k * cstride] = v.re;
@@ -202,13 +201,13 @@ void complex_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::in
 // One real column at float offset `off`: gather, real transform, scatter.
 template <class E>
 void real_column(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64_t dstep, int H, std::int64_t off,
-                 const void* colR, Gex8u* buf, bool inv, const std::int32_t* rmap = nullptr) {
+                 const void* colR, Gex8u* buf, bool inv) {
     Gex32f* g = reinterpret_cast<Gex32f*>(fft::align64(buf));
     Gex8u* rest = reinterpret_cast<Gex8u*>(g) + fft::align64up(std::int64_t{4} * H);
-    for (int y = 0; y < H; ++y) g[y] = row(src, sstep, rmap ? rmap[y] : y)[off];
+    for (int y = 0; y < H; ++y) g[y] = row(src, sstep, y)[off];
     if (inv) E::invR(g, g, colR, rest);
     else E::fwdR(g, g, colR, rest);
-    for (int y = 0; y < H; ++y) row(dst, dstep, rmap ? rmap[y] : y)[off] = g[y];
+    for (int y = 0; y < H; ++y) row(dst, dstep, y)[off] = g[y];
 }
 
 // Rows of a real image: channel by channel through the buffer when C > 1.
@@ -256,12 +255,12 @@ void real_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
 // Single-channel forward, 1024 rows, source and destination apart: the
 // first column passes only combine the rows of one block of 64 (see
 // fft_split_head), so each block's rows are transformed and written next to
-// each other (row y of the image to row rmap[y]) and its column passes run
-// while those rows are still in cache; then each offset's 16 rows finish in
-// place, leaving the eight-column groups in natural row order. The columns
-// outside the groups (the real ones and the last few complex ones) run
-// through the buffer on the moved rows and are moved back last. Every value
-// comes out with the bits of the plain order.
+// each other and its column passes run while those rows are still in cache;
+// the columns outside the eight-column groups (the real ones and the last
+// few complex ones) are copied to the buffer at the same time. Then each
+// offset's 16 rows finish in place, which leaves the groups in natural row
+// order, and take their other columns from the buffer. Every value comes out
+// with the bits of rows first, then whole columns.
 inline bool split_apart(const Gex32f* src, std::int64_t sstep, const Gex32f* dst, std::int64_t dstep, int W, int H) {
     auto span = [&](const Gex32f* p, std::int64_t step) {
         const auto a = reinterpret_cast<std::uintptr_t>(p);
@@ -276,53 +275,56 @@ inline bool split_apart(const Gex32f* src, std::int64_t sstep, const Gex32f* dst
 template <class E>
 bool split_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64_t dstep, const Spec2D* s,
                    Gex8u* buf) {
-    const int W = s->width, H = s->height;
     if constexpr (!std::is_same_v<E, FftEngine>) {
         return false;
     } else {
+        const int W = s->width, H = s->height;
         const auto* colC = static_cast<const FftSpec*>(s->pColSpecC);
-        const std::int64_t nC = (W - 1) / 2, nG = nC / 8;
+        const auto* colR = static_cast<const FftSpec*>(s->pColSpecR);
+        const auto* rowS = static_cast<const FftSpec*>(s->pRowSpec);
+        const std::int64_t nC = (W - 1) / 2, nG = nC / 8, x0 = 1 + 16 * nG, nx = (W - 1 - x0) / 2;
+        // the other columns take 4 (2 + 2 nx) H bytes of the buffer, the row,
+        // column and block work the rest
+        const std::int64_t tailBytes = fft::align64up(std::int64_t{4} * H * (2 + 2 * nx));
+        const std::int64_t room = std::int64_t{s->bufferSize} - 64 - tailBytes;
         if (H != (1 << fft::kSplitOrder) || nG == 0 || W % 2 != 0 || !fft::fft_split_ok(colC) ||
+            std::max({std::int64_t{4096}, std::int64_t{rowS->workSize}, std::int64_t{colR->workSize},
+                      std::int64_t{colC->workSize}}) > room ||
             !split_apart(src, sstep, dst, dstep, W, H))
             return false;
-        std::int32_t rs[256], rmap[1 << fft::kSplitOrder];
+        Gex32f* T0 = reinterpret_cast<Gex32f*>(fft::align64(buf));
+        Gex32f* T1 = T0 + H;
+        Gex32fc* Tc = reinterpret_cast<Gex32fc*>(T1 + H);
+        Gex8u* work = reinterpret_cast<Gex8u*>(T0) + tailBytes;
+        std::int32_t rs[256];
         fft::fft_split_blocks(colC, rs);
-        for (int b = 0; b < 16; ++b)
-            for (int i = 0; i < 64; ++i) rmap[rs[16 * b + (i & 15)] + 256 * (i >> 4)] = 64 * b + i;
         auto group = [&](std::int64_t y, std::int64_t g) {
             return fftk::SPtr{reinterpret_cast<Gex8u*>(row(dst, dstep, y) + 1 + 16 * g), dstep};
         };
         for (int b = 0; b < 16; ++b) {
-            for (int i = 0; i < 64; ++i)
-                E::fwdR(row(src, sstep, rs[16 * b + (i & 15)] + 256 * (i >> 4)), row(dst, dstep, 64 * b + i),
-                        s->pRowSpec, buf);
+            for (int i = 0; i < 64; ++i) {
+                const int y = rs[16 * b + (i & 15)] + 256 * (i >> 4);
+                Gex32f* d = row(dst, dstep, 64 * b + i);
+                E::fwdR(row(src, sstep, y), d, rowS, work);
+                T0[y] = d[0];
+                T1[y] = d[W - 1];
+                for (std::int64_t k = 0; k < nx; ++k) Tc[k * H + y] = {d[x0 + 2 * k], d[x0 + 2 * k + 1]};
+            }
             for (std::int64_t g = 0; g < nG; ++g)
-                fft::fft_split_head(group(64 * b, g), group(64 * b, g), colC, buf, rs + 16 * b);
+                fft::fft_split_head(group(64 * b, g), group(64 * b, g), colC, work, rs + 16 * b);
         }
-        for (int j = 0; j < 64; ++j)
-            for (std::int64_t g = 0; g < nG; ++g) fft::fft_split_tail(group(0, g), colC, j);
-        // the columns outside the groups, on the moved rows
-        real_column<E>(dst, dstep, dst, dstep, H, 0, s->pColSpecR, buf, false, rmap);
-        real_column<E>(dst, dstep, dst, dstep, H, W - 1, s->pColSpecR, buf, false, rmap);
-        std::int64_t c = 8 * nG;
-        for (; c + 4 <= nC; c += 4)
-            column_group<E>(dst, dstep, dst, dstep, H, 1 + 2 * c, 2, 1, 4, colC, buf, false, false, rmap);
-        for (; c < nC; ++c)
-            column_group<E>(dst, dstep, dst, dstep, H, 1 + 2 * c, 2, 1, 1, colC, buf, false, false, rmap);
-        // and back to their rows: float 0 and floats 1 + 16 nG .. W - 1
-        const std::int64_t x0 = 1 + 16 * nG, nt = W - x0;
-        Gex32f* t = reinterpret_cast<Gex32f*>(fft::align64(buf));
-        for (int y = 0; y < H; ++y) {
-            const Gex32f* r = row(dst, dstep, rmap[y]);
-            Gex32f* o = t + y * (nt + 1);
-            o[0] = r[0];
-            std::memcpy(o + 1, r + x0, 4 * nt);
-        }
-        for (int y = 0; y < H; ++y) {
-            Gex32f* r = row(dst, dstep, y);
-            const Gex32f* o = t + y * (nt + 1);
-            r[0] = o[0];
-            std::memcpy(r + x0, o + 1, 4 * nt);
+        E::fwdR(T0, T0, colR, work);
+        E::fwdR(T1, T1, colR, work);
+        for (std::int64_t k = 0; k < nx; ++k) E::runC(Tc + k * H, Tc + k * H, colC, work, false);
+        for (int j = 0; j < 64; ++j) {
+            fft::fft_split_tail(group(0, 0), nG, colC, j);
+            for (int u = 0; u < 16; ++u) {
+                const int y = j + 64 * u;
+                Gex32f* d = row(dst, dstep, y);
+                d[0] = T0[y];
+                d[W - 1] = T1[y];
+                for (std::int64_t k = 0; k < nx; ++k) d[x0 + 2 * k] = Tc[k * H + y].re, d[x0 + 2 * k + 1] = Tc[k * H + y].im;
+            }
         }
         return true;
     }

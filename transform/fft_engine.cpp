@@ -831,9 +831,12 @@ void fft::fft_split_head(SPtr in, SPtr out, const FftSpec* s, Gex8u* buf, const 
     r4x2_pass<false, CB>(t, out, 64, 4, s->pTwiddle, s->pTwiddle + 12, 1.0f, false);
 }
 
-void fft::fft_split_tail(SPtr data, const FftSpec* s, int j) {
+void fft::fft_split_tail(SPtr data, std::int64_t groups, const FftSpec* s, int j) {
     const Gex32fc* twA = s->pTwiddle + 60;
-    r4x2_one<false, CB>(data, data, j, 64, twA, twA + 192, s->normFactor, s->scaleFwd != 0);
+    for (std::int64_t g = 0; g < groups; ++g) {
+        const SPtr d = {data.base + 64 * g, data.step};
+        r4x2_one<false, CB>(d, d, j, 64, twA, twA + 192, s->normFactor, s->scaleFwd != 0);
+    }
 }
 
 void fft::small_fft_run(const Gex32fc* src, Gex32fc* dst, int order, bool inv, float scl, bool doScale) {
