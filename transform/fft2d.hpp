@@ -20,6 +20,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
+#include <utility>
 
 #include "frame/checks.hpp"
 #include "transform/fft_engine.hpp"
@@ -250,6 +252,84 @@ void real_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
     }
 }
 
+// Single-channel forward, 1024 rows, source and destination apart: the
+// first column passes only combine the rows of one block of 64 (see
+// fft_split_head), so each block's rows are transformed and written next to
+// each other and its column passes run while those rows are still in cache;
+// the columns outside the eight-column groups (the real ones and the last
+// few complex ones) are copied to the buffer at the same time. Then each
+// offset's 16 rows finish in place, which leaves the groups in natural row
+// order, and take their other columns from the buffer. Every value comes out
+// with the bits of rows first, then whole columns.
+inline bool split_apart(const Gex32f* src, std::int64_t sstep, const Gex32f* dst, std::int64_t dstep, int W, int H) {
+    auto span = [&](const Gex32f* p, std::int64_t step) {
+        const auto a = reinterpret_cast<std::uintptr_t>(p);
+        const std::int64_t last = step * (H - 1);
+        return std::pair<std::uintptr_t, std::uintptr_t>{a + std::min<std::int64_t>(last, 0),
+                                                         a + std::max<std::int64_t>(last, 0) + 4 * std::int64_t{W}};
+    };
+    const auto s = span(src, sstep), d = span(dst, dstep);
+    return s.second <= d.first || d.second <= s.first;
+}
+
+template <class E>
+bool split_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64_t dstep, const Spec2D* s,
+                   Gex8u* buf) {
+    if constexpr (!std::is_same_v<E, FftEngine>) {
+        return false;
+    } else {
+        const int W = s->width, H = s->height;
+        const auto* colC = static_cast<const FftSpec*>(s->pColSpecC);
+        const auto* colR = static_cast<const FftSpec*>(s->pColSpecR);
+        const auto* rowS = static_cast<const FftSpec*>(s->pRowSpec);
+        const std::int64_t nC = (W - 1) / 2, nG = nC / 8, x0 = 1 + 16 * nG, nx = (W - 1 - x0) / 2;
+        // the other columns take 4 (2 + 2 nx) H bytes of the buffer, the row,
+        // column and block work the rest
+        const std::int64_t tailBytes = fft::align64up(std::int64_t{4} * H * (2 + 2 * nx));
+        const std::int64_t room = std::int64_t{s->bufferSize} - 64 - tailBytes;
+        if (H != (1 << fft::kSplitOrder) || nG == 0 || W % 2 != 0 || !fft::fft_split_ok(colC) ||
+            std::max({std::int64_t{4096}, std::int64_t{rowS->workSize}, std::int64_t{colR->workSize},
+                      std::int64_t{colC->workSize}}) > room ||
+            !split_apart(src, sstep, dst, dstep, W, H))
+            return false;
+        Gex32f* T0 = reinterpret_cast<Gex32f*>(fft::align64(buf));
+        Gex32f* T1 = T0 + H;
+        Gex32fc* Tc = reinterpret_cast<Gex32fc*>(T1 + H);
+        Gex8u* work = reinterpret_cast<Gex8u*>(T0) + tailBytes;
+        std::int32_t rs[256];
+        fft::fft_split_blocks(colC, rs);
+        auto group = [&](std::int64_t y, std::int64_t g) {
+            return fftk::SPtr{reinterpret_cast<Gex8u*>(row(dst, dstep, y) + 1 + 16 * g), dstep};
+        };
+        for (int b = 0; b < 16; ++b) {
+            for (int i = 0; i < 64; ++i) {
+                const int y = rs[16 * b + (i & 15)] + 256 * (i >> 4);
+                Gex32f* d = row(dst, dstep, 64 * b + i);
+                E::fwdR(row(src, sstep, y), d, rowS, work);
+                T0[y] = d[0];
+                T1[y] = d[W - 1];
+                for (std::int64_t k = 0; k < nx; ++k) Tc[k * H + y] = {d[x0 + 2 * k], d[x0 + 2 * k + 1]};
+            }
+            for (std::int64_t g = 0; g < nG; ++g)
+                fft::fft_split_head(group(64 * b, g), group(64 * b, g), colC, work, rs + 16 * b);
+        }
+        E::fwdR(T0, T0, colR, work);
+        E::fwdR(T1, T1, colR, work);
+        for (std::int64_t k = 0; k < nx; ++k) E::runC(Tc + k * H, Tc + k * H, colC, work, false);
+        for (int j = 0; j < 64; ++j) {
+            fft::fft_split_tail(group(0, 0), nG, colC, j);
+            for (int u = 0; u < 16; ++u) {
+                const int y = j + 64 * u;
+                Gex32f* d = row(dst, dstep, y);
+                d[0] = T0[y];
+                d[W - 1] = T1[y];
+                for (std::int64_t k = 0; k < nx; ++k) d[x0 + 2 * k] = Tc[k * H + y].re, d[x0 + 2 * k + 1] = Tc[k * H + y].im;
+            }
+        }
+        return true;
+    }
+}
+
 template <class E, int C, int NCH>
 void real_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64_t dstep, const Spec2D* s,
                   Gex8u* buf) {
@@ -265,6 +345,8 @@ void real_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
         }
         return;
     }
+    if constexpr (C == 1)
+        if (split_forward<E>(src, sstep, dst, dstep, s, buf)) return;
     real_rows<E, C, NCH>(src, sstep, dst, dstep, W, H, s->pRowSpec, buf, false);
     real_columns<E, C, NCH>(dst, dstep, dst, dstep, W, H, s, buf, false);
 }

@@ -163,19 +163,24 @@ void radix4_tw_fill(Gex32fc* tw, int c) {
 }
 
 // ---- radix-4 path kernels: scalar twins and 512-bit forms ----
+// One group of the first pass: the 4-point DFT of s, s + q, s + 2q, s + 3q to d .. d + 3.
+template <bool INV, class V, class PI, class PO>
+inline void first_one(PI s, std::int64_t q, PO d) {
+    V a0 = ld<V>(s), a1 = ld<V>(s + q), a2 = ld<V>(s + 2 * q), a3 = ld<V>(s + 3 * q);
+    dft4<INV>(a0, a1, a2, a3);
+    st(d, a0);
+    st(d + 1, a1);
+    st(d + 2, a2);
+    st(d + 3, a3);
+}
+
 template <bool INV, class V = C1, class PI, class PO>
 void first_pass_c1(PI src, PO dst, std::int64_t n, const std::int32_t* br) {
     const std::int64_t q = n / 4;
     for (std::int64_t r = 0; r < q; ++r) {
         if (r + kPrefetchAhead < q)
             for (int t = 0; t < 4; ++t) prefetch(src + (r + kPrefetchAhead + t * q));
-        V a0 = ld<V>(src + r), a1 = ld<V>(src + r + q), a2 = ld<V>(src + r + 2 * q), a3 = ld<V>(src + r + 3 * q);
-        dft4<INV>(a0, a1, a2, a3);
-        const auto d = dst + 4 * std::int64_t{br[r]};
-        st(d, a0);
-        st(d + 1, a1);
-        st(d + 2, a2);
-        st(d + 3, a3);
+        first_one<INV, V>(src + r, q, dst + 4 * std::int64_t{br[r]});
     }
 }
 
@@ -800,6 +805,37 @@ void fft::fft_run_batch(SPtr src, SPtr dst, const FftSpec* s, Gex8u* buf, bool i
         if (odd) first8_pass_c1<false, CB>(src, t, n, s->pBitRev, s->pTwiddle);
         else first_pass_c1<false, CB>(src, t, n, s->pBitRev);
         radix4_passes_t<false, 2>(t, dst, c, s->pTwiddle, s->normFactor, doScale, odd);
+    }
+}
+
+// The batched order-10 forward transform in two parts. Its first pass and
+// the fused spans 4 and 16 only ever combine the 64 outputs of one block
+// (outputs 64b .. 64b + 63, fed by the inputs r + 256k for the 16 r whose
+// reversal br[r] lies in 16b .. 16b + 15); the fused spans 64 and 256 only
+// combine the 16 elements j + 64u of one offset j. Run block by block and
+// offset by offset, the operations on every element are those of
+// fft_run_batch, in the same order.
+bool fft::fft_split_ok(const FftSpec* s) { return fft_batch_ok(s) && s->corder == kSplitOrder; }
+
+void fft::fft_split_blocks(const FftSpec* s, std::int32_t* rs) {
+    int count[16] = {};
+    for (int r = 0; r < 256; ++r) {
+        const int b = s->pBitRev[r] >> 4;
+        rs[16 * b + count[b]++] = r;
+    }
+}
+
+void fft::fft_split_head(SPtr in, SPtr out, const FftSpec* s, Gex8u* buf, const std::int32_t* rs) {
+    const SPtr t = {align64(buf), 64};
+    for (int m = 0; m < 16; ++m) first_one<false, CB>(in + m, 16, t + 4 * std::int64_t{s->pBitRev[rs[m]] & 15});
+    r4x2_pass<false, CB>(t, out, 64, 4, s->pTwiddle, s->pTwiddle + 12, 1.0f, false);
+}
+
+void fft::fft_split_tail(SPtr data, std::int64_t groups, const FftSpec* s, int j) {
+    const Gex32fc* twA = s->pTwiddle + 60;
+    for (std::int64_t g = 0; g < groups; ++g) {
+        const SPtr d = {data.base + 64 * g, data.step};
+        r4x2_one<false, CB>(d, d, j, 64, twA, twA + 192, s->normFactor, s->scaleFwd != 0);
     }
 }
 

@@ -184,6 +184,18 @@ bool fft_batch_ok(const FftSpec* s);
 void fft_run_batch(fftk::SPtr src, fftk::SPtr dst, const FftSpec* s, Gex8u* buf, bool inv);
 bool dft_batch_ok(const DftSpec* s);
 void dft_run_batch(fftk::SPtr src, fftk::SPtr dst, const DftSpec* s, Gex8u* buf, bool inv);
+// The forward batched transform of order kSplitOrder in 16 blocks and 64
+// offsets (see fft_engine.cpp): fft_split_blocks lists, block after block,
+// the 16 first-pass indices r of each block (rs[256]). fft_split_head runs
+// block b from its 64 inputs r + 256k at in + (m + 16k), m the place of r in
+// the block's list rs, to its outputs 64b + i at out + i (in == out allowed;
+// the buffer holds 4 KB). fft_split_tail finishes offset j of `groups`
+// batches 64 bytes apart: elements j + 64u at data + (j + 64u), in place.
+constexpr int kSplitOrder = 10;
+bool fft_split_ok(const FftSpec* s);
+void fft_split_blocks(const FftSpec* s, std::int32_t* rs);
+void fft_split_head(fftk::SPtr in, fftk::SPtr out, const FftSpec* s, Gex8u* buf, const std::int32_t* rs);
+void fft_split_tail(fftk::SPtr data, std::int64_t groups, const FftSpec* s, int j);
 // The table-free kernels of lengths up to 64 (order 0..6).
 void small_fft_run(const Gex32fc* src, Gex32fc* dst, int order, bool inv, float scl, bool doScale);
 void pack_to_perm(Gex32f* d, std::int64_t n);

@@ -434,36 +434,37 @@ inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
 // order), so the results do not change. twA and twB are the two passes'
 // tables; V = C8 needs L >= 8.
 template <bool INV, class V, class PI, class PO>
+inline void r4x2_one(PI src, PO dst, std::int64_t j, std::int64_t L, const Gex32fc* twA, const Gex32fc* twB, float scl,
+             bool doScale) {
+    V e[16];
+    for (int u = 0; u < 16; ++u) e[u] = ld<V>(src + (j + u * L));
+    for (int b = 0; b < 4; ++b) {  // span L
+        V a0 = e[4 * b], a1 = e[4 * b + 2], a2 = e[4 * b + 1], a3 = e[4 * b + 3];
+        a1 = twiddle<INV>(a1, ldtw<V>(twA + tw_index(j, 1, L)));
+        a2 = twiddle<INV>(a2, ldtw<V>(twA + tw_index(j, 2, L)));
+        a3 = twiddle<INV>(a3, ldtw<V>(twA + tw_index(j, 3, L)));
+        dft4<INV>(a0, a1, a2, a3);
+        e[4 * b] = a0, e[4 * b + 1] = a1, e[4 * b + 2] = a2, e[4 * b + 3] = a3;
+    }
+    for (int q = 0; q < 4; ++q) {  // span 4L
+        const std::int64_t jj = j + q * L;
+        V a0 = e[q], a1 = e[8 + q], a2 = e[4 + q], a3 = e[12 + q];
+        a1 = twiddle<INV>(a1, ldtw<V>(twB + tw_index(jj, 1, 4 * L)));
+        a2 = twiddle<INV>(a2, ldtw<V>(twB + tw_index(jj, 2, 4 * L)));
+        a3 = twiddle<INV>(a3, ldtw<V>(twB + tw_index(jj, 3, 4 * L)));
+        dft4<INV>(a0, a1, a2, a3);
+        if (doScale) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
+        e[q] = a0, e[4 + q] = a1, e[8 + q] = a2, e[12 + q] = a3;
+    }
+    for (int u = 0; u < 16; ++u) st(dst + (j + u * L), e[u]);
+}
+
+template <bool INV, class V, class PI, class PO>
 inline void r4x2_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc* twA, const Gex32fc* twB, float scl,
                       bool doScale) {
     constexpr int W = width<V>;
-    for (std::int64_t g = 0; g < n; g += 16 * L) {
-        const auto src = in + g;
-        const auto dst = out + g;
-        for (std::int64_t j = 0; j < L; j += W) {
-            V e[16];
-            for (int u = 0; u < 16; ++u) e[u] = ld<V>(src + (j + u * L));
-            for (int b = 0; b < 4; ++b) {  // span L
-                V a0 = e[4 * b], a1 = e[4 * b + 2], a2 = e[4 * b + 1], a3 = e[4 * b + 3];
-                a1 = twiddle<INV>(a1, ldtw<V>(twA + tw_index(j, 1, L)));
-                a2 = twiddle<INV>(a2, ldtw<V>(twA + tw_index(j, 2, L)));
-                a3 = twiddle<INV>(a3, ldtw<V>(twA + tw_index(j, 3, L)));
-                dft4<INV>(a0, a1, a2, a3);
-                e[4 * b] = a0, e[4 * b + 1] = a1, e[4 * b + 2] = a2, e[4 * b + 3] = a3;
-            }
-            for (int q = 0; q < 4; ++q) {  // span 4L
-                const std::int64_t jj = j + q * L;
-                V a0 = e[q], a1 = e[8 + q], a2 = e[4 + q], a3 = e[12 + q];
-                a1 = twiddle<INV>(a1, ldtw<V>(twB + tw_index(jj, 1, 4 * L)));
-                a2 = twiddle<INV>(a2, ldtw<V>(twB + tw_index(jj, 2, 4 * L)));
-                a3 = twiddle<INV>(a3, ldtw<V>(twB + tw_index(jj, 3, 4 * L)));
-                dft4<INV>(a0, a1, a2, a3);
-                if (doScale) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
-                e[q] = a0, e[4 + q] = a1, e[8 + q] = a2, e[12 + q] = a3;
-            }
-            for (int u = 0; u < 16; ++u) st(dst + (j + u * L), e[u]);
-        }
-    }
+    for (std::int64_t g = 0; g < n; g += 16 * L)
+        for (std::int64_t j = 0; j < L; j += W) r4x2_one<INV, V>(in + g, out + g, j, L, twA, twB, scl, doScale);
 }
 
 }  // namespace gex::fftk
