@@ -30,5 +30,11 @@ for (op, case), who in rows.items():
             print(f"{op:<20} {case:<11} {gt:>10.1f} {gbw:>7.2f}  {'-':<8} {'-':>10} {'-':>7} {'-':>6}  {agree}")
             continue
         pt = who[p]["real_time"]
+        # A peer row may carry its own comparison: the largest difference
+        # from our output, and a label saying where the methods differ.
+        if "maxdiff" in who[p]:
+            agree = f"max diff {who[p]['maxdiff']:g}"
+            if who[p].get("label"):
+                agree += f" ({who[p]['label']})"
         pbw = who[p].get("bytes_per_second", 0) / 1e9
         print(f"{op:<20} {case:<11} {gt:>10.1f} {gbw:>7.2f}  {p:<8} {pt:>10.1f} {pbw:>7.2f} {pt / gt:>6.2f}  {agree}")
