@@ -43,7 +43,7 @@ int ilog2(int n) {
 // Our record, buffers and images (64-byte aligned rows, no gaps).
 struct Ours {
     Case c;
-    std::vector<Gex8u> spec, init, buf;
+    std::vector<Gex8u> record, init, buf;
     std::vector<float> src, dst;  // real: W x H floats; complex: 2W x H
     int step;
     explicit Ours(Case cs) : c(cs) {
@@ -59,32 +59,32 @@ struct Ours {
             const int ox = ilog2(c.width), oy = ilog2(c.height);
             if (c.real) gexiFFTGetSize_R_32f(ox, oy, 8, gexAlgHintNone, &a, &b, &cc);
             else gexiFFTGetSize_C_32fc(ox, oy, 8, gexAlgHintNone, &a, &b, &cc);
-            spec.resize(a);
+            record.resize(a);
             init.resize(b + 1);
             buf.resize(cc);
-            GexiFFTSpec* s = reinterpret_cast<GexiFFTSpec*>(spec.data());
+            GexiFFTSpec* s = reinterpret_cast<GexiFFTSpec*>(record.data());
             if (c.real) gexiFFTInit_R_32f(ox, oy, 8, gexAlgHintNone, s, init.data());
             else gexiFFTInit_C_32fc(ox, oy, 8, gexAlgHintNone, s, init.data());
         } else {
             const GexiSize roi = {c.width, c.height};
             if (c.real) gexiDFTGetSize_R_32f(roi, 8, gexAlgHintNone, &a, &b, &cc);
             else gexiDFTGetSize_C_32fc(roi, 8, gexAlgHintNone, &a, &b, &cc);
-            spec.resize(a);
+            record.resize(a);
             init.resize(b + 1);
             buf.resize(cc);
-            GexiDFTSpec* s = reinterpret_cast<GexiDFTSpec*>(spec.data());
+            GexiDFTSpec* s = reinterpret_cast<GexiDFTSpec*>(record.data());
             if (c.real) gexiDFTInit_R_32f(roi, 8, gexAlgHintNone, s, init.data());
             else gexiDFTInit_C_32fc(roi, 8, gexAlgHintNone, s, init.data());
         }
     }
     GexStatus run() {
         if (c.pow2) {
-            const GexiFFTSpec* s = reinterpret_cast<const GexiFFTSpec*>(spec.data());
+            const GexiFFTSpec* s = reinterpret_cast<const GexiFFTSpec*>(record.data());
             if (c.real) return gexiFFTFwd_RToPack_32f_C1R(src.data(), step, dst.data(), step, s, buf.data());
             return gexiFFTFwd_CToC_32fc_C1R(reinterpret_cast<const Gex32fc*>(src.data()), step,
                                             reinterpret_cast<Gex32fc*>(dst.data()), step, s, buf.data());
         }
-        const GexiDFTSpec* s = reinterpret_cast<const GexiDFTSpec*>(spec.data());
+        const GexiDFTSpec* s = reinterpret_cast<const GexiDFTSpec*>(record.data());
         if (c.real) return gexiDFTFwd_RToPack_32f_C1R(src.data(), step, dst.data(), step, s, buf.data());
         return gexiDFTFwd_CToC_32fc_C1R(reinterpret_cast<const Gex32fc*>(src.data()), step,
                                         reinterpret_cast<Gex32fc*>(dst.data()), step, s, buf.data());

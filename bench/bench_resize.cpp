@@ -32,7 +32,7 @@ constexpr Case kUp{"1920x1080to3840x2160", 1920, 1080, 3840, 2160};
 // A record and scratch for one resize, built through the protocol.
 struct Resizer {
     std::vector<Gex8u> block, init, buf;
-    GexiResizeSpec* spec = nullptr;
+    GexiResizeSpec* record = nullptr;
     Resizer(Method m, const Case& c, int channels) {
         const GexiSize s{c.sw, c.sh}, d{c.dw, c.dh};
         const GexiInterpolation code = m == Method::Linear ? gexiInterLinear
@@ -42,16 +42,16 @@ struct Resizer {
         gexiResizeGetSize_8u(s, d, code, 0, &specSize, &initSize);
         block.resize(specSize);
         init.resize(initSize);
-        spec = reinterpret_cast<GexiResizeSpec*>(block.data());
+        record = reinterpret_cast<GexiResizeSpec*>(block.data());
         if (m == Method::Linear) {
-            if (channels == 3) gexiResizeLinearInit_8u(s, d, spec);
-            else gexiResizeLinearInit_32f(s, d, spec);
+            if (channels == 3) gexiResizeLinearInit_8u(s, d, record);
+            else gexiResizeLinearInit_32f(s, d, record);
         } else if (m == Method::Cubic) {
-            gexiResizeCubicInit_8u(s, d, 0.0f, 0.5f, spec, init.data());
+            gexiResizeCubicInit_8u(s, d, 0.0f, 0.5f, record, init.data());
         } else {
-            gexiResizeLanczosInit_8u(s, d, 3, spec, init.data());
+            gexiResizeLanczosInit_8u(s, d, 3, record, init.data());
         }
-        gexiResizeGetBufferSize_8u(spec, d, Gex32u(channels), &bufSize);
+        gexiResizeGetBufferSize_8u(record, d, Gex32u(channels), &bufSize);
         buf.resize(bufSize);
     }
 };
@@ -62,17 +62,17 @@ GexStatus run_gex(Method m, const Case& c, int channels, Resizer& r, Buffer& src
     if (channels == 1)
         return gexiResizeLinear_32f_C1R(reinterpret_cast<const Gex32f*>(src.data), src.step,
                                         reinterpret_cast<Gex32f*>(dst.data), dst.step, {0, 0}, d, gexBorderRepl,
-                                        nullptr, r.spec, r.buf.data());
+                                        nullptr, r.record, r.buf.data());
     switch (m) {
     case Method::Linear:
-        return gexiResizeLinear_8u_C3R(src.data, src.step, dst.data, dst.step, {0, 0}, d, gexBorderRepl, nullptr, r.spec,
+        return gexiResizeLinear_8u_C3R(src.data, src.step, dst.data, dst.step, {0, 0}, d, gexBorderRepl, nullptr, r.record,
                                        r.buf.data());
     case Method::Cubic:
-        return gexiResizeCubic_8u_C3R(src.data, src.step, dst.data, dst.step, {0, 0}, d, gexBorderRepl, nullptr, r.spec,
+        return gexiResizeCubic_8u_C3R(src.data, src.step, dst.data, dst.step, {0, 0}, d, gexBorderRepl, nullptr, r.record,
                                       r.buf.data());
     default:
         return gexiResizeLanczos_8u_C3R(src.data, src.step, dst.data, dst.step, {0, 0}, d, gexBorderRepl, nullptr,
-                                        r.spec, r.buf.data());
+                                        r.record, r.buf.data());
     }
 }
 

@@ -36,7 +36,7 @@ struct Axis {
     std::uint32_t nHigh;      // destination indices from the end down that read past it
 };
 
-struct Spec {
+struct Record {
     std::uint32_t id;
     std::uint32_t dataType;
     std::uint32_t interpolation;
@@ -46,14 +46,14 @@ struct Spec {
     Axis yAxis;
     Axis xAxis;
 };
-static_assert(sizeof(Spec) <= kRecordBytes);
+static_assert(sizeof(Record) <= kRecordBytes);
 
 // The block's address rounded up to 64 bytes.
-inline Spec* spec_at(void* block) {
+inline Record* spec_at(void* block) {
     const auto a = reinterpret_cast<std::uintptr_t>(block);
-    return reinterpret_cast<Spec*>((a + 63) & ~std::uintptr_t{63});
+    return reinterpret_cast<Record*>((a + 63) & ~std::uintptr_t{63});
 }
-inline const Spec* spec_at(const void* block) {
+inline const Record* spec_at(const void* block) {
     return spec_at(const_cast<void*>(block));
 }
 
@@ -126,7 +126,7 @@ inline std::uint64_t super_spec_size(std::uint64_t srcW, std::uint64_t srcH, std
 // Scratch bytes of a super-sampling run over a tile of width x height and the
 // given channels (the 64 of the buffer's rounding included): the row pointer
 // array, then one float accumulator row per destination row of a period.
-inline std::uint64_t super_buffer_size(const Spec* s, std::int64_t width, std::int64_t height,
+inline std::uint64_t super_buffer_size(const Record* s, std::int64_t width, std::int64_t height,
                                        std::uint32_t channels) {
     const std::uint64_t w = std::uint64_t(width < std::int64_t(s->xAxis.dstLen) ? width : s->xAxis.dstLen);
     const std::uint64_t h = std::uint64_t(height < std::int64_t(s->yAxis.dstLen) ? height : s->yAxis.dstLen);
@@ -147,7 +147,7 @@ enum class IdTest {
     IdLDouble,   // _L 64f runs: identifier, then data type 19
 };
 
-inline bool id_matches(const Spec* s, IdTest t) {
+inline bool id_matches(const Record* s, IdTest t) {
     switch (t) {
     case IdTest::Id32: return s->id == kId32;
     case IdTest::Id32Double: return s->id == kId32 && s->dataType == kTypeDouble;
@@ -182,7 +182,7 @@ inline GexStatus check_run(const RunArgs& a, IdTest idTest, std::uint32_t elemSi
     if (a.pSrc == nullptr || a.pDst == nullptr || a.pSpec == nullptr || a.pBuffer == nullptr)
         return gexStsNullPtr;
     if (a.width == 0 || a.height == 0) return gexStsNoOperation;
-    const Spec* s = spec_at(a.pSpec);
+    const Record* s = spec_at(a.pSpec);
     if (!id_matches(s, idTest)) return gexStsContextMatch;
     if (a.width < 1 || a.height < 1) return gexStsSize;
     if (elemSize > 1 && (a.srcStep % elemSize != 0 || a.dstStep % elemSize != 0)) return gexStsStep;
@@ -196,7 +196,7 @@ inline GexStatus check_run(const RunArgs& a, IdTest idTest, std::uint32_t elemSi
 
 // Status after a run: +48 when the requested tile itself was larger than the
 // destination (it was clipped and computed all the same).
-inline GexStatus run_status(const Spec* s, std::int64_t width, std::int64_t height) {
+inline GexStatus run_status(const Record* s, std::int64_t width, std::int64_t height) {
     return (width > std::int64_t(s->xAxis.dstLen) || height > std::int64_t(s->yAxis.dstLen)) ? gexStsSizeWarn
                                                                                               : gexStsOk;
 }

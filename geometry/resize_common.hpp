@@ -40,7 +40,7 @@ constexpr std::uint64_t a32(std::uint64_t n) { return (n + 31) & ~std::uint64_t{
 
 // Scalar fields of a record; the axes get their extents and ratios, every
 // table pointer null. The identifier is left to the caller.
-inline void set_fields(Spec* s, std::uint32_t dataType, std::uint32_t interpolation, std::uint32_t taps,
+inline void set_fields(Record* s, std::uint32_t dataType, std::uint32_t interpolation, std::uint32_t taps,
                        std::uint32_t srcW, std::uint32_t srcH, std::uint32_t dstW, std::uint32_t dstH) {
     s->dataType = dataType;
     s->interpolation = interpolation;
@@ -136,7 +136,7 @@ struct Tile {
 // Clipping, source origin and the tile position tables (xTab first, yTab
 // behind it) in the scratch buffer aligned to 64 bytes.
 template <class T>
-Tile<T> prepare_tile(const Spec* s, const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t dstStep,
+Tile<T> prepare_tile(const Record* s, const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t dstStep,
                      std::int64_t offX, std::int64_t offY, std::int64_t width, std::int64_t height, void* pBuffer,
                      int channels) {
     Tile<T> t{};
@@ -171,7 +171,7 @@ struct Bands {
 // Band widths: only tiles at the true edge of the destination get them, and
 // an in-memory flag removes the band on its side.
 template <class T>
-Bands band_widths(const Spec* s, const Tile<T>& t, int border) {
+Bands band_widths(const Record* s, const Tile<T>& t, int border) {
     auto cap = [](std::int64_t v, std::int64_t lim) { return v <= 0 ? 0 : std::min(v, lim); };
     Bands b{};
     if (!(border & gexBorderInMemTop)) b.top = cap(std::int64_t(s->yAxis.nLow) - t.offY, t.h);
@@ -253,7 +253,7 @@ void band_pixel_taps(const Tile<T>& t, int nt, std::int64_t px0, std::int64_t py
 
 // One band pixel of destination (j, i) of the tile.
 template <class T, int C, Kind K>
-void band_pixel(const Spec* s, const Tile<T>& t, std::int64_t j, std::int64_t i, const Clamp& cX, const Clamp& cY) {
+void band_pixel(const Record* s, const Tile<T>& t, std::int64_t j, std::int64_t i, const Clamp& cX, const Clamp& cY) {
     T* out = row_at(t.dst, t.dstStep, i) + j * C;
     const std::int64_t gx = t.offX + j, gy = t.offY + i;
     if constexpr (K == Kind::Linear) {
@@ -308,7 +308,7 @@ void band_pixel(const Spec* s, const Tile<T>& t, std::int64_t j, std::int64_t i,
 }
 
 template <class T, int C, Kind K>
-void run_bands(const Spec* s, const Tile<T>& t, const Bands& b, int border) {
+void run_bands(const Record* s, const Tile<T>& t, const Bands& b, int border) {
     const Clamp cX{t.xMin, t.xMax, !(border & gexBorderInMemLeft), !(border & gexBorderInMemRight)};
     const Clamp cY{t.yMin, t.yMax, !(border & gexBorderInMemTop), !(border & gexBorderInMemBottom)};
     for (std::int64_t i = 0; i < b.top; ++i)
@@ -337,7 +337,7 @@ struct RowJob {
 // runs the vertical pass into the destination. Rows that no destination row
 // needs are never read.
 template <class T, int C, class Kernel>
-void run_interior(const Spec* s, const Tile<T>& t, const Bands& b, int taps) {
+void run_interior(const Record* s, const Tile<T>& t, const Bands& b, int taps) {
     const std::int64_t x0 = b.left, x1 = t.w - b.right, y0 = b.top, y1 = t.h - b.bottom;
     if (x1 <= x0 || y1 <= y0) return;
     const int slots = 2 * taps;
@@ -366,7 +366,7 @@ void run_interior(const Spec* s, const Tile<T>& t, const Bands& b, int taps) {
 // family (8u linear against a float run, a half-built Lanczos record) is
 // refused like a record of another method.
 template <class T, Kind K>
-bool tables_ok(const Spec* s) {
+bool tables_ok(const Record* s) {
     if (s->yAxis.pPos == nullptr || s->xAxis.pPos == nullptr) return false;
     if constexpr (K == Kind::Nearest) {
         return true;

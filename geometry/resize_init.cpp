@@ -17,13 +17,13 @@ constexpr std::uint64_t r32(std::uint64_t n) { return (n + 31) & ~std::uint64_t{
 
 // The position tables start here behind the record: y positions, then x
 // positions, each with room for the extent rounded up to 32 entries.
-std::uint8_t* layout_positions(Spec* s, std::uint8_t* at) {
+std::uint8_t* layout_positions(Record* s, std::uint8_t* at) {
     s->yAxis.pPos = reinterpret_cast<std::int32_t*>(at);
     s->xAxis.pPos = s->yAxis.pPos + r32(s->yAxis.dstLen);
     return reinterpret_cast<std::uint8_t*>(s->xAxis.pPos + r32(s->xAxis.dstLen));
 }
 
-std::uint8_t* behind_record(Spec* s) { return reinterpret_cast<std::uint8_t*>(s) + kRecordBytes; }
+std::uint8_t* behind_record(Record* s) { return reinterpret_cast<std::uint8_t*>(s) + kRecordBytes; }
 
 // Table arithmetic runs with underflow flushed to zero and the underflow
 // exception masked; the two control bits and the sticky underflow flag are
@@ -123,7 +123,7 @@ void lanczos_axis(const float* frac, std::uint32_t n, float* w) {
 
 // Positions into the record and fractions, as floats, into the Init buffer
 // (y first, then x); returns the x fractions.
-float* tap_positions(Spec* s, std::uint32_t taps, float* fracY) {
+float* tap_positions(Record* s, std::uint32_t taps, float* fracY) {
     float* fracX = fracY + r32(s->yAxis.dstLen);
     build_tap_axis(s->yAxis, taps, [&](std::uint32_t i, double f) { fracY[i] = float(f); });
     build_tap_axis(s->xAxis, taps, [&](std::uint32_t i, double f) { fracX[i] = float(f); });
@@ -132,7 +132,7 @@ float* tap_positions(Spec* s, std::uint32_t taps, float* fracY) {
 
 // Weight rows of nt floats per destination index, y before x, each table on
 // a 32-byte boundary behind the positions.
-void layout_weight_rows(Spec* s, std::uint8_t* end, int nt) {
+void layout_weight_rows(Record* s, std::uint8_t* end, int nt) {
     float* wy = reinterpret_cast<float*>(align_up(end, 32));
     float* wx = reinterpret_cast<float*>(align_up(wy + std::size_t(s->yAxis.dstLen) * nt, 32));
     s->yAxis.pCoef32f = wy;
@@ -142,7 +142,7 @@ void layout_weight_rows(Spec* s, std::uint8_t* end, int nt) {
 }  // namespace
 
 void init_nearest(const Dims& d, std::uint32_t id, void* pSpec) {
-    Spec* s = spec_at(pSpec);
+    Record* s = spec_at(pSpec);
     set_fields(s, kTypeFloat, kNearest, 0, d.srcW, d.srcH, d.dstW, d.dstH);
     layout_positions(s, behind_record(s));
     build_nearest_axis(s->yAxis);
@@ -151,7 +151,7 @@ void init_nearest(const Dims& d, std::uint32_t id, void* pSpec) {
 }
 
 void init_linear(const Dims& d, LinearTable table, std::uint32_t id, void* pSpec) {
-    Spec* s = spec_at(pSpec);
+    Record* s = spec_at(pSpec);
     set_fields(s, table == LinearTable::Double ? kTypeDouble : kTypeFloat, kLinear, 1, d.srcW, d.srcH, d.dstW,
                d.dstH);
     if (table == LinearTable::Double) {
@@ -183,7 +183,7 @@ void init_linear(const Dims& d, LinearTable table, std::uint32_t id, void* pSpec
 }
 
 void init_cubic(const Dims& d, float B, float C, std::uint32_t id, void* pSpec, void* pInitBuf) {
-    Spec* s = spec_at(pSpec);
+    Record* s = spec_at(pSpec);
     set_fields(s, kTypeFloat, kCubic, 2, d.srcW, d.srcH, d.dstW, d.dstH);
     std::uint8_t* end = layout_positions(s, behind_record(s));
     float* fracY = reinterpret_cast<float*>(align_up(pInitBuf, 64));
@@ -199,7 +199,7 @@ GexStatus init_lanczos(const Dims& d, std::uint32_t numLobes, std::uint32_t id, 
     // The scalar fields, the identifier and the positions go in before the
     // lobe count and the source's minimum are tested: a failing call leaves a
     // record that names itself but has no weights (runs refuse it).
-    Spec* s = spec_at(pSpec);
+    Record* s = spec_at(pSpec);
     set_fields(s, kTypeFloat, kLanczos, numLobes, d.srcW, d.srcH, d.dstW, d.dstH);
     std::uint8_t* end = layout_positions(s, behind_record(s));
     s->id = id;

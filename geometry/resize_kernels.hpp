@@ -22,8 +22,8 @@ namespace gex::resize {
 template <int C>
 struct LinearQ14Scalar {
     using Weights = const std::uint16_t*;
-    static Weights x_weights(const Spec* s, std::int64_t gx) { return s->xAxis.pCoefQ14 + 2 * gx; }
-    static const std::uint16_t* y_weights(const Spec* s, std::int64_t gy) { return s->yAxis.pCoefQ14 + gy; }
+    static Weights x_weights(const Record* s, std::int64_t gx) { return s->xAxis.pCoefQ14 + 2 * gx; }
+    static const std::uint16_t* y_weights(const Record* s, std::int64_t gy) { return s->yAxis.pCoefQ14 + gy; }
     static void row(const std::uint8_t* src, const std::int32_t* xTab, std::int64_t n, Weights w, void* outv) {
         auto* out = static_cast<std::int16_t*>(outv);
         for (std::int64_t j = 0; j < n; ++j) {
@@ -48,11 +48,11 @@ template <class T, int C>
 struct LinearFloatScalar {
     using F = Acc<T>;
     using Weights = const F*;
-    static Weights x_weights(const Spec* s, std::int64_t gx) {
+    static Weights x_weights(const Record* s, std::int64_t gx) {
         if constexpr (std::is_same_v<T, double>) return s->xAxis.pCoef64f + gx;
         else return s->xAxis.pCoef32f + gx;
     }
-    static const F* y_weights(const Spec* s, std::int64_t gy) {
+    static const F* y_weights(const Record* s, std::int64_t gy) {
         if constexpr (std::is_same_v<T, double>) return s->yAxis.pCoef64f + gy;
         else return s->yAxis.pCoef32f + gy;
     }
@@ -104,8 +104,8 @@ template <class T, int C, int NT>
 struct TapsScalar {
     using Weights = const float*;
     static constexpr int kHalf = NT / 2 - 1;  // taps before the position
-    static Weights x_weights(const Spec* s, std::int64_t gx) { return s->xAxis.pCoef32f + gx * NT; }
-    static const float* y_weights(const Spec* s, std::int64_t gy) { return s->yAxis.pCoef32f + gy * NT; }
+    static Weights x_weights(const Record* s, std::int64_t gx) { return s->xAxis.pCoef32f + gx * NT; }
+    static const float* y_weights(const Record* s, std::int64_t gy) { return s->yAxis.pCoef32f + gy * NT; }
     static void row(const T* src, const std::int32_t* xTab, std::int64_t n, Weights w, void* outv) {
         float* out = static_cast<float*>(outv);
         for (std::int64_t j = 0; j < n; ++j) {

@@ -194,8 +194,8 @@ template <class T, int C, int NT>
 struct TapsVector {
     using Scalar = TapsScalar<T, C, NT>;
     using Weights = const float*;
-    static Weights x_weights(const Spec* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
-    static const float* y_weights(const Spec* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
+    static Weights x_weights(const Record* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
+    static const float* y_weights(const Record* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
 
     static void row(const T* src, const std::int32_t* xTab, std::int64_t n, Weights w, void* outv) {
         float* out = static_cast<float*>(outv);
@@ -272,8 +272,8 @@ template <int C>
 struct LinearFloatVector {
     using Scalar = LinearFloatScalar<float, C>;
     using Weights = const float*;
-    static Weights x_weights(const Spec* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
-    static const float* y_weights(const Spec* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
+    static Weights x_weights(const Record* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
+    static const float* y_weights(const Record* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
 
     static void row(const float* src, const std::int32_t* xTab, std::int64_t n, Weights w, void* outv) {
         float* out = static_cast<float*>(outv);
@@ -316,8 +316,8 @@ template <int C>
 struct LinearQ14Vector {
     using Scalar = LinearQ14Scalar<C>;
     using Weights = const std::uint16_t*;
-    static Weights x_weights(const Spec* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
-    static const std::uint16_t* y_weights(const Spec* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
+    static Weights x_weights(const Record* s, std::int64_t gx) { return Scalar::x_weights(s, gx); }
+    static const std::uint16_t* y_weights(const Record* s, std::int64_t gy) { return Scalar::y_weights(s, gy); }
 
     // (p0 (16384 - w) + p1 w + 128) >> 8 in 32-bit lanes.
     static __m512i q6(__m512i p0, __m512i p1, __m512i w0, __m512i w1) {

@@ -88,7 +88,7 @@ GexStatus get_size32(GexiSize src, GexiSize dst, bool dbl, std::uint32_t interp,
 // Which records a query form accepts.
 enum class QForm { Narrow, NarrowDouble, Large };
 
-bool id_ok(const Spec* s, QForm f) {
+bool id_ok(const Record* s, QForm f) {
     switch (f) {
     case QForm::Narrow: return s->id == kId32;
     case QForm::NarrowDouble: return s->id == kId32 && s->dataType == kTypeDouble;
@@ -99,23 +99,23 @@ bool id_ok(const Spec* s, QForm f) {
 
 GexStatus border_size(const GexiResizeSpec* pSpec, GexiBorderSize* pBorderSize, QForm f) {
     GEX_CHECK(check_null(pSpec, pBorderSize));
-    const Spec* s = spec_at(pSpec);
+    const Record* s = spec_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     *pBorderSize = s->borderSize;
     return gexStsOk;
 }
 
-bool offset_in(const Spec* s, std::int64_t x, std::int64_t y) {
+bool offset_in(const Record* s, std::int64_t x, std::int64_t y) {
     return x >= 0 && y >= 0 && x < std::int64_t(s->xAxis.dstLen) && y < std::int64_t(s->yAxis.dstLen);
 }
 
 // First source pixel a tile starting at `off` reads on an axis.
-std::int64_t origin(const Spec* s, const Axis& ax, std::int64_t off) {
+std::int64_t origin(const Record* s, const Axis& ax, std::int64_t off) {
     return s->interpolation == kSuper ? super_src_offset(ax, off) : src_origin(ax, off);
 }
 
 // Source extent of the destination indices [off, off + ext), ext clipped.
-std::int64_t extent(const Spec* s, const Axis& ax, std::int64_t off, std::int64_t ext) {
+std::int64_t extent(const Record* s, const Axis& ax, std::int64_t off, std::int64_t ext) {
     const std::int64_t o = origin(s, ax, off);
     if (s->interpolation == kSuper) return super_src_extent(ax, off, off + ext);
     if (off + ext == std::int64_t(ax.dstLen)) return std::int64_t(ax.srcLen) - o;
@@ -125,7 +125,7 @@ std::int64_t extent(const Spec* s, const Axis& ax, std::int64_t off, std::int64_
 template <class P>
 GexStatus src_offset(const GexiResizeSpec* pSpec, P dstOffset, P* pSrcOffset, QForm f) {
     GEX_CHECK(check_null(pSpec, pSrcOffset));
-    const Spec* s = spec_at(pSpec);
+    const Record* s = spec_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (!offset_in(s, dstOffset.x, dstOffset.y)) return gexStsOutOfRange;
     pSrcOffset->x = decltype(pSrcOffset->x)(origin(s, s->xAxis, dstOffset.x));
@@ -137,7 +137,7 @@ template <class P, class S>
 GexStatus src_roi(const GexiResizeSpec* pSpec, P dstOffset, S dstSize, P* pSrcOffset, S* pSrcSize, QForm f) {
     GEX_CHECK(check_null(pSpec, pSrcOffset, pSrcSize));
     GEX_CHECK(check_roi(dstSize));
-    const Spec* s = spec_at(pSpec);
+    const Record* s = spec_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (!offset_in(s, dstOffset.x, dstOffset.y)) return gexStsOutOfRange;
     const std::int64_t w = std::min<std::int64_t>(dstSize.width, std::int64_t(s->xAxis.dstLen) - dstOffset.x);
@@ -152,7 +152,7 @@ GexStatus src_roi(const GexiResizeSpec* pSpec, P dstOffset, S dstSize, P* pSrcOf
 template <class S>
 GexStatus buffer_size(const GexiResizeSpec* pSpec, S dstSize, Gex32u channels, std::uint64_t& out, QForm f) {
     if (dstSize.width == 0 || dstSize.height == 0) return gexStsNoOperation;
-    const Spec* s = spec_at(pSpec);
+    const Record* s = spec_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (channels != 1 && channels != 3 && channels != 4) return gexStsNumChannels;
     GEX_CHECK(check_roi(dstSize));

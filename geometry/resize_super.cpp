@@ -25,7 +25,7 @@ namespace gex {
 namespace {
 
 using resize::Axis;
-using resize::Spec;
+using resize::Record;
 
 constexpr std::uint32_t kMethod = gexiInterSuper;
 constexpr std::int64_t kLimitL = 0x20000000;
@@ -51,7 +51,7 @@ void build_axis(Axis& ax, std::int32_t* pos, float* w) {
 // Writes the record; the identifier goes in last.
 void build_spec(std::int64_t srcW, std::int64_t srcH, std::int64_t dstW, std::int64_t dstH, GexiResizeSpec* pSpec,
                 std::uint32_t id) {
-    Spec* s = resize::spec_at(static_cast<void*>(pSpec));
+    Record* s = resize::spec_at(static_cast<void*>(pSpec));
     s->dataType = resize::kTypeFloat;
     s->interpolation = kMethod;
     s->tapsX = 0;
@@ -65,7 +65,7 @@ void build_spec(std::int64_t srcW, std::int64_t srcH, std::int64_t dstW, std::in
     // Directly behind the record's fields: y positions, x positions, then the
     // y and x weights, each on a 32-byte boundary. The query's size has room
     // for both roundings since the fields end short of its record bytes.
-    auto* yPos = reinterpret_cast<std::int32_t*>(reinterpret_cast<unsigned char*>(s) + sizeof(Spec));
+    auto* yPos = reinterpret_cast<std::int32_t*>(reinterpret_cast<unsigned char*>(s) + sizeof(Record));
     std::int32_t* xPos = yPos + nY;
     float* yW = align_up<float>(xPos + nX, 32);
     float* xW = align_up<float>(yW + nY, 32);
@@ -130,7 +130,7 @@ GexStatus run(const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t dstStep
     const resize::RunArgs args{pSrc, srcStep, pDst, dstStep, offX, offY, width, height, pSpec, pBuffer};
     GEX_CHECK(resize::check_run(args, idTest, sizeof(T), kMethod));
 
-    const Spec* s = resize::spec_at(static_cast<const void*>(pSpec));
+    const Record* s = resize::spec_at(static_cast<const void*>(pSpec));
     const Axis& ax = s->xAxis;
     const Axis& ay = s->yAxis;
     const std::int64_t w = std::min<std::int64_t>(width, std::int64_t(ax.dstLen) - offX);

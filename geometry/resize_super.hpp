@@ -22,7 +22,7 @@ void ownSuperKernel(std::uint32_t num, std::uint32_t den, std::uint32_t k, std::
 namespace super {
 
 // The scale factor of a tile that reduces both axes.
-float tile_scale(const resize::Spec* s);
+float tile_scale(const resize::Record* s);
 
 // ---- vertical ---------------------------------------------------------------
 // One destination row's sum over its k source rows: row j is

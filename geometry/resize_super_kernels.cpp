@@ -138,7 +138,7 @@ inline void store16(T* p, __mmask16 m, __m512 v) {
 
 }  // namespace
 
-float tile_scale(const resize::Spec* s) {
+float tile_scale(const resize::Record* s) {
     const resize::Axis& x = s->xAxis;
     const resize::Axis& y = s->yAxis;
     const float fy = float(y.den) / float(y.num);

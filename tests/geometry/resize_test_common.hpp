@@ -96,8 +96,8 @@ struct Record {
     std::vector<std::uint8_t> block, init;
     GexStatus status = 0;
     std::size_t skew = 0;
-    GexiResizeSpec* spec() { return reinterpret_cast<GexiResizeSpec*>(block.data() + skew); }
-    const gex::resize::Spec* raw() { return gex::resize::spec_at(spec()); }
+    GexiResizeSpec* record() { return reinterpret_cast<GexiResizeSpec*>(block.data() + skew); }
+    const gex::resize::Record* raw() { return gex::resize::spec_at(record()); }
 };
 
 template <class T>
@@ -121,7 +121,7 @@ Record make_record(M m, GexiSize src, GexiSize dst, Params p = {}, bool large = 
     r.block.assign(std::size_t(specSize) + skew, 0xCD);
     r.init.assign(std::size_t(initSize), 0xEE);
     const GexiSizeL sl{src.width, src.height}, dl{dst.width, dst.height};
-    GexiResizeSpec* sp = r.spec();
+    GexiResizeSpec* sp = r.record();
     const GexDataType t = type_of<T>();
     switch (m) {
     case M::Nearest:
@@ -358,20 +358,20 @@ GexStatus run_tile(Record& rec, const T* origin, std::int64_t srcStep, GexiPoint
     GexiPointL so{};
     GexStatus st;
     if (large) {
-        st = gexiResizeGetSrcOffset_L(rec.spec(), off, &so);
+        st = gexiResizeGetSrcOffset_L(rec.record(), off, &so);
     } else {
         GexiPoint p{};
-        st = std::is_same_v<T, double> ? gexiResizeGetSrcOffset_64f(rec.spec(), GexiPoint{int(off.x), int(off.y)}, &p)
-                                       : gexiResizeGetSrcOffset_16u(rec.spec(), GexiPoint{int(off.x), int(off.y)}, &p);
+        st = std::is_same_v<T, double> ? gexiResizeGetSrcOffset_64f(rec.record(), GexiPoint{int(off.x), int(off.y)}, &p)
+                                       : gexiResizeGetSrcOffset_16u(rec.record(), GexiPoint{int(off.x), int(off.y)}, &p);
         so = {p.x, p.y};
     }
     if (st != 0) return st;
     Gex64s bytes = 0;
-    if (large) EXPECT_GE(gexiResizeGetBufferSize_L(rec.spec(), size, C, &bytes), 0);
-    else bytes = buffer_bytes<T>(rec.spec(), GexiSize{int(size.width), int(size.height)}, C);
+    if (large) EXPECT_GE(gexiResizeGetBufferSize_L(rec.record(), size, C, &bytes), 0);
+    else bytes = buffer_bytes<T>(rec.record(), GexiSize{int(size.width), int(size.height)}, C);
     buf.assign(std::size_t(bytes), 0);
     const T* p = reinterpret_cast<const T*>(reinterpret_cast<const std::uint8_t*>(origin) + so.y * srcStep) + so.x * C;
-    return Api<T, C, K>::run(p, srcStep, dst, dstStep, off, size, border, rec.spec(), buf.data(), large);
+    return Api<T, C, K>::run(p, srcStep, dst, dstStep, off, size, border, rec.record(), buf.data(), large);
 }
 
 // Compares a destination of dst.width x dst.height against the model.

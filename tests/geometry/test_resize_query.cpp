@@ -165,7 +165,7 @@ TEST(ResizeInit, LanczosNarrowInitLeavesAHalfWrittenRecord) {
         auto* sp = reinterpret_cast<GexiResizeSpec*>(block.data());
         EXPECT_EQ(gexiResizeLanczosInit_8u({5, 5}, {9, 7}, lobes, sp, init.data()),
                   lobes == 3 ? gexStsSize : gexStsNotSupportedMode);
-        const gex::resize::Spec* s = gex::resize::spec_at(sp);
+        const gex::resize::Record* s = gex::resize::spec_at(sp);
         EXPECT_EQ(s->id, gex::resize::kId32);
         EXPECT_EQ(s->interpolation, 16u);
         const rt::AxisModel ax(5, 9, int(lobes));
@@ -351,29 +351,29 @@ TEST(ResizeTileQueries, BorderOffsetRoiAndForms) {
     rt::Params p3;
     rt::Record lz = rt::make_record<Gex8u>(M::Lanczos, {50, 40}, {30, 70}, p3);
     GexiBorderSize bs{};
-    ASSERT_EQ(gexiResizeGetBorderSize_16s(lz.spec(), &bs), 0);
+    ASSERT_EQ(gexiResizeGetBorderSize_16s(lz.record(), &bs), 0);
     EXPECT_EQ(bs.borderLeft + bs.borderTop + bs.borderRight + bs.borderBottom, 12u);
-    ASSERT_EQ(gexiResizeGetBorderSize_8u(lin.spec(), &bs), 0);
+    ASSERT_EQ(gexiResizeGetBorderSize_8u(lin.record(), &bs), 0);
     EXPECT_EQ(bs.borderRight, 1u);
     // Forms: 64f needs a double record, _L an _L record, the narrow forms a narrow one.
-    EXPECT_EQ(gexiResizeGetBorderSize_64f(lin.spec(), &bs), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeGetBorderSize_64f(dbl.spec(), &bs), 0);
-    EXPECT_EQ(gexiResizeGetBorderSize_8u(big.spec(), &bs), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeGetBorderSize_L(big.spec(), &bs), 0);
-    EXPECT_EQ(gexiResizeGetBorderSize_L(lin.spec(), &bs), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetBorderSize_64f(lin.record(), &bs), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetBorderSize_64f(dbl.record(), &bs), 0);
+    EXPECT_EQ(gexiResizeGetBorderSize_8u(big.record(), &bs), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetBorderSize_L(big.record(), &bs), 0);
+    EXPECT_EQ(gexiResizeGetBorderSize_L(lin.record(), &bs), gexStsContextMatch);
     EXPECT_EQ(gexiResizeGetBorderSize_8u(nullptr, &bs), gexStsNullPtr);
 
     const rt::AxisModel ax(50, 30, 1), ay(40, 70, 1);
     for (int ox = 0; ox < 30; ++ox)
         for (int oy = 0; oy < 70; oy += 7) {
             GexiPoint so{};
-            ASSERT_EQ(gexiResizeGetSrcOffset_32f(lin.spec(), {ox, oy}, &so), 0);
+            ASSERT_EQ(gexiResizeGetSrcOffset_32f(lin.record(), {ox, oy}, &so), 0);
             EXPECT_EQ(so.x, int(std::floor(ox * (5.0 / 3.0))));
             EXPECT_EQ(so.y, int(std::floor(oy * (4.0 / 7.0))));
             for (int w : {1, 4, 30 - ox, 31 - ox, 40}) {
                 GexiPoint ro{};
                 GexiSize rs{};
-                const GexStatus st = gexiResizeGetSrcRoi_16u(lin.spec(), {ox, oy}, {w, 3}, &ro, &rs);
+                const GexStatus st = gexiResizeGetSrcRoi_16u(lin.record(), {ox, oy}, {w, 3}, &ro, &rs);
                 EXPECT_EQ(st, w > 30 ? gexStsSizeWarn : gexStsOk);
                 EXPECT_EQ(ro.x, so.x);
                 const int end = std::min(30, ox + w);
@@ -384,16 +384,16 @@ TEST(ResizeTileQueries, BorderOffsetRoiAndForms) {
         }
     GexiPoint so{};
     GexiSize rs{};
-    EXPECT_EQ(gexiResizeGetSrcOffset_8u(lin.spec(), {30, 0}, &so), gexStsOutOfRange);
-    EXPECT_EQ(gexiResizeGetSrcOffset_8u(lin.spec(), {0, -1}, &so), gexStsOutOfRange);
-    EXPECT_EQ(gexiResizeGetSrcOffset_8u(big.spec(), {30, 0}, &so), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.spec(), {30, 0}, {0, 5}, &so, &rs), gexStsSize);  // extent before id and offset
-    EXPECT_EQ(gexiResizeGetSrcRoi_8u(big.spec(), {30, 0}, {1, 5}, &so, &rs), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.spec(), {30, 0}, {1, 5}, &so, &rs), gexStsOutOfRange);
-    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.spec(), {0, 0}, {1, 5}, nullptr, &rs), gexStsNullPtr);
+    EXPECT_EQ(gexiResizeGetSrcOffset_8u(lin.record(), {30, 0}, &so), gexStsOutOfRange);
+    EXPECT_EQ(gexiResizeGetSrcOffset_8u(lin.record(), {0, -1}, &so), gexStsOutOfRange);
+    EXPECT_EQ(gexiResizeGetSrcOffset_8u(big.record(), {30, 0}, &so), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.record(), {30, 0}, {0, 5}, &so, &rs), gexStsSize);  // extent before id and offset
+    EXPECT_EQ(gexiResizeGetSrcRoi_8u(big.record(), {30, 0}, {1, 5}, &so, &rs), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.record(), {30, 0}, {1, 5}, &so, &rs), gexStsOutOfRange);
+    EXPECT_EQ(gexiResizeGetSrcRoi_8u(lin.record(), {0, 0}, {1, 5}, nullptr, &rs), gexStsNullPtr);
     GexiPointL sl{};
     GexiSizeL rl{};
-    EXPECT_EQ(gexiResizeGetSrcRoi_L(big.spec(), {3, 69}, {100, 1}, &sl, &rl), gexStsSizeWarn);
+    EXPECT_EQ(gexiResizeGetSrcRoi_L(big.record(), {3, 69}, {100, 1}, &sl, &rl), gexStsSizeWarn);
     EXPECT_EQ(sl.x, 5);
     EXPECT_EQ(rl.width, 45);
     EXPECT_EQ(rl.height, 40 - sl.y);
@@ -415,25 +415,25 @@ TEST(ResizeTileQueries, BufferSizeFormulaAndChecks) {
                 const std::uint64_t base = r32(H * 4) + r32(W * 4);
                 const GexStatus warn = (w > 30 || h > 70) ? gexStsSizeWarn : gexStsOk;
                 Gex32u n = 0;
-                EXPECT_EQ(gexiResizeGetBufferSize_8u(nn.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_8u(nn.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, base + 64);
-                EXPECT_EQ(gexiResizeGetBufferSize_16s(lin.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_16s(lin.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, base + 2 * r32(c * 4 * W) + 64);
-                EXPECT_EQ(gexiResizeGetBufferSize_32f(cub.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_32f(cub.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, base + 4 * r32(c * 4 * W) + 64);
-                EXPECT_EQ(gexiResizeGetBufferSize_8u(lz.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_8u(lz.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, base + 6 * r32(c * 4 * W) + 64);
-                EXPECT_EQ(gexiResizeGetBufferSize_8u(lz2.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_8u(lz2.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, base + 4 * r32(c * 4 * W) + 64);
-                EXPECT_EQ(gexiResizeGetBufferSize_64f(dbl.spec(), {w, h}, c, &n), warn);
+                EXPECT_EQ(gexiResizeGetBufferSize_64f(dbl.record(), {w, h}, c, &n), warn);
                 EXPECT_EQ(n, c * 8 * ((2 * W + 63) / 32 * 32) + ((H + 31) / 32 + (W + 31) / 32) * 128 + 64);
             }
     Gex32u n = 5;
-    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.spec(), {0, 5}, 2, nullptr), gexStsNullPtr);
-    EXPECT_EQ(gexiResizeGetBufferSize_8u(dbl.spec(), {0, -5}, 2, &n), gexStsNoOperation);
-    EXPECT_EQ(gexiResizeGetBufferSize_64f(lin.spec(), {-1, 5}, 2, &n), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.spec(), {-1, 5}, 2, &n), gexStsNumChannels);
-    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.spec(), {-1, 5}, 3, &n), gexStsSize);
+    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.record(), {0, 5}, 2, nullptr), gexStsNullPtr);
+    EXPECT_EQ(gexiResizeGetBufferSize_8u(dbl.record(), {0, -5}, 2, &n), gexStsNoOperation);
+    EXPECT_EQ(gexiResizeGetBufferSize_64f(lin.record(), {-1, 5}, 2, &n), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.record(), {-1, 5}, 2, &n), gexStsNumChannels);
+    EXPECT_EQ(gexiResizeGetBufferSize_8u(lin.record(), {-1, 5}, 3, &n), gexStsSize);
     EXPECT_EQ(n, 5u);
 }
 
@@ -443,7 +443,7 @@ TEST(ResizeTileQueries, BufferSizeFormulaAndChecks) {
 TEST(ResizeTileQueries, SuperSamplingPeriodGeometry) {
     std::vector<std::uint8_t> block(1024, 0);
     auto* sp = reinterpret_cast<GexiResizeSpec*>(block.data());
-    gex::resize::Spec* s = gex::resize::spec_at(sp);
+    gex::resize::Record* s = gex::resize::spec_at(sp);
     static std::int32_t pos[4] = {0, 1, 1, 2};
     static float w[4] = {1.0f, 0.5f, 0.5f, 1.0f};
     s->id = gex::resize::kId32;
@@ -492,7 +492,7 @@ TEST(ResizeRunChecks, OrderAndNothingWritten) {
     rt::Record lin8 = rt::make_record<Gex8u>(M::Linear, {20, 20}, {10, 10});
     rt::Record big = rt::make_record<Gex16s>(M::Linear, {20, 20}, {10, 10}, {}, true);
     rt::Record aa = rt::make_record<Gex16s>(M::Linear, {20, 20}, {10, 10});
-    const_cast<gex::resize::Spec*>(aa.raw())->antialiasing = 1;
+    const_cast<gex::resize::Record*>(aa.raw())->antialiasing = 1;
     std::vector<Gex16s> src(400, 7);
     std::vector<std::uint8_t> buf(4096);
     Guarded<Gex16s> dst(10, 10, 1);
@@ -501,7 +501,7 @@ TEST(ResizeRunChecks, OrderAndNothingWritten) {
     auto run = [&](rt::Record& r, int border, const Gex16s* ps, int srcStep, GexiPoint off, GexiSize size,
                    std::uint8_t* b) {
         return gexiResizeLinear_16s_C1R(ps, srcStep, dst.ptr(), dst.step(), off, size, GexiBorderType(border), nullptr,
-                                        r.spec(), b);
+                                        r.record(), b);
     };
     const Gex16s* s = src.data();
     std::uint8_t* b = buf.data();
@@ -534,23 +534,23 @@ TEST(ResizeRunChecks, OrderAndNothingWritten) {
     rt::Record dbl = rt::make_record<Gex64f>(M::Linear, {20, 20}, {10, 10});
     rt::Record bigd = rt::make_record<Gex64f>(M::Linear, {20, 20}, {10, 10}, {}, true);
     std::vector<Gex64f> sd(400), dd(100);
-    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, lin.spec(), b),
+    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, lin.record(), b),
               gexStsContextMatch);
-    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, dbl.spec(), b), 0);
-    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 164, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, dbl.spec(), b),
+    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, dbl.record(), b), 0);
+    EXPECT_EQ(gexiResizeLinear_64f_C1R(sd.data(), 164, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, dbl.record(), b),
               gexStsStep);
-    EXPECT_EQ(gexiResizeLinear_16s_C1R_L(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, gexBorderRepl, nullptr, bigd.spec(), b),
+    EXPECT_EQ(gexiResizeLinear_16s_C1R_L(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, gexBorderRepl, nullptr, bigd.record(), b),
               gexStsContextMatch);
-    EXPECT_EQ(gexiResizeLinear_64f_C1R_L(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, big.spec(), b),
+    EXPECT_EQ(gexiResizeLinear_64f_C1R_L(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, big.record(), b),
               gexStsContextMatch);
-    EXPECT_EQ(gexiResizeLinear_64f_C1R_L(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, bigd.spec(), b), 0);
+    EXPECT_EQ(gexiResizeLinear_64f_C1R_L(sd.data(), 160, dd.data(), 80, {0, 0}, {10, 10}, gexBorderRepl, nullptr, bigd.record(), b), 0);
     // Nearest needs its scratch buffer too, has no border, and tests its method.
     rt::Record nn = rt::make_record<Gex16s>(M::Nearest, {20, 20}, {10, 10});
-    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, nn.spec(), nullptr), gexStsNullPtr);
-    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, lin.spec(), b), gexStsContextMatch);
-    EXPECT_EQ(gexiResizeCubic_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, gexBorderRepl, nullptr, nn.spec(), b),
+    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, nn.record(), nullptr), gexStsNullPtr);
+    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, lin.record(), b), gexStsContextMatch);
+    EXPECT_EQ(gexiResizeCubic_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, gexBorderRepl, nullptr, nn.record(), b),
               gexStsContextMatch);
-    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, nn.spec(), b), 0);
+    EXPECT_EQ(gexiResizeNearest_16s_C1R(s, 40, dst.ptr(), dst.step(), {0, 0}, {10, 10}, nn.record(), b), 0);
 }
 
 }  // namespace

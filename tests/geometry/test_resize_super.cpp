@@ -76,7 +76,7 @@ struct Record {
         mem.assign(size + misalign + 64, 0xA5);
         p = reinterpret_cast<GexiResizeSpec*>(mem.data() + misalign);
     }
-    const rs::Spec* spec() const { return rs::spec_at(static_cast<const void*>(p)); }
+    const rs::Record* record() const { return rs::spec_at(static_cast<const void*>(p)); }
     bool canary_ok() const {
         const auto* b = reinterpret_cast<const unsigned char*>(p);
         for (std::size_t i = size; b + i < mem.data() + mem.size(); ++i)
@@ -88,7 +88,7 @@ struct Record {
 struct Scratch {
     std::vector<unsigned char> mem;
     std::size_t size;
-    Scratch(const rs::Spec* s, std::int64_t w, std::int64_t h, int c) {
+    Scratch(const rs::Record* s, std::int64_t w, std::int64_t h, int c) {
         size = rs::super_buffer_size(s, w, h, c);
         mem.assign(size + 3 + 64, 0x5A);
     }
@@ -231,7 +231,7 @@ std::vector<T> random_image(std::mt19937& rng, int w, int h, int C) {
 template <class T, int C>
 GexStatus run_tile(const std::vector<T>& src, int sw, std::vector<T>& out, int dw, const Record& rec, int x, int y,
                    int w, int h, bool useL = false) {
-    const rs::Spec* s = rec.spec();
+    const rs::Record* s = rec.record();
     const std::int64_t ex = std::min<std::int64_t>(x + w, dw), ey = std::min<std::int64_t>(y + h, s->yAxis.dstLen);
     const std::int64_t sx = rs::super_src_offset(s->xAxis, x), sy = rs::super_src_offset(s->yAxis, y);
     EXPECT_LE(sx + rs::super_src_extent(s->xAxis, x, ex), sw);
@@ -310,7 +310,7 @@ void whole_runs_match_model() {
         src.fill_random(rng);
         Record rec(q.sw, q.sh, q.dw, q.dh);
         ASSERT_EQ(init32<T>({q.sw, q.sh}, {q.dw, q.dh}, rec.p), gexStsOk);
-        Scratch buf(rec.spec(), q.dw, q.dh, C);
+        Scratch buf(rec.record(), q.dw, q.dh, C);
         const GexStatus st =
             run32<T, C>(src.ptr(), src.step(), dst.ptr(), dst.step(), {0, 0}, {q.dw, q.dh}, rec.p, buf.ptr());
         ASSERT_EQ(st, gexStsOk);
@@ -373,7 +373,7 @@ TEST(ResizeSuperRun, LargeStepCopy) {
     }
     Record rec(5, 2, 5, 2);
     ASSERT_EQ(gexiResizeSuperInit_L({5, 2}, {5, 2}, gex16u, rec.p), gexStsOk);
-    Scratch buf(rec.spec(), 5, 2, 3);
+    Scratch buf(rec.record(), 5, 2, 3);
     std::vector<Gex16u> out(5 * 3 * 2, 0);
     EXPECT_EQ(gexiResizeSuper_16u_C3R_L(base, step, out.data(), 5 * 3 * 2, GexiPointL{0, 0}, GexiSizeL{5, 2}, rec.p,
                                         buf.ptr()),
@@ -600,7 +600,7 @@ TEST(ResizeSuperInit, StatusesInOrderAndNothingWritten) {
     EXPECT_EQ(rec.mem, before);
     for (GexDataType t : {gex8u, gex16u, gex16s, gex32f}) {
         EXPECT_EQ(gexiResizeSuperInit_L({0x1FFFFFFF, 8}, {0x1FFFFFFF, 4}, t, p), gexStsOk);
-        EXPECT_EQ(rec.spec()->id, rs::kIdL);
+        EXPECT_EQ(rec.record()->id, rs::kIdL);
     }
 }
 
@@ -614,7 +614,7 @@ TEST(ResizeSuperInit, RecordFieldsAndFormsAgree) {
                              : form == 2 ? gexiResizeSuperInit_16s({q.sw, q.sh}, {q.dw, q.dh}, rec.p)
                                          : gexiResizeSuperInit_32f({q.sw, q.sh}, {q.dw, q.dh}, rec.p);
         ASSERT_EQ(st, gexStsOk);
-        const rs::Spec* s = rec.spec();
+        const rs::Record* s = rec.record();
         EXPECT_EQ(s->id, rs::kId32);
         EXPECT_EQ(s->dataType, 13u);
         EXPECT_EQ(s->interpolation, 8u);
@@ -642,7 +642,7 @@ void run_statuses() {
     Guarded<T> src(12, 12, C), dst(8, 8, C);
     std::mt19937 rng(1);
     src.fill_random(rng);
-    Scratch buf(rec.spec(), 16, 16, C);
+    Scratch buf(rec.record(), 16, 16, C);
     const std::vector<T> before = dst.snapshot();
     const T* s = src.ptr();
     T* d = dst.ptr();
@@ -653,7 +653,7 @@ void run_statuses() {
     const int bad = sizeof(T) > 1 ? ss + 1 : ss;  // misaligned for 16-bit and float depths
     Record other(12, 12, 8, 8);
     ASSERT_EQ(init32<T>({12, 12}, {8, 8}, other.p), gexStsOk);
-    auto* os = const_cast<rs::Spec*>(other.spec());
+    auto* os = const_cast<rs::Record*>(other.record());
     EXPECT_EQ(R(nullptr, d, ss, {0, 0}, {0, 8}, rec, buf.ptr()), gexStsNullPtr);
     EXPECT_EQ(R(s, nullptr, ss, {0, 0}, {0, 8}, rec, buf.ptr()), gexStsNullPtr);
     EXPECT_EQ(R(s, d, ss, {0, 0}, {0, 8}, rec, nullptr), gexStsNullPtr);
