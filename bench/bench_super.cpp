@@ -31,10 +31,10 @@ struct Setup {
     GexiResizeSpec* p;
     template <class InitFn>
     Setup(InitFn init, int channels) {
-        record.resize(gex::resize::super_spec_size(kW, kH, kDW, kDH));
+        record.resize(gex::resize::super_record_size(kW, kH, kDW, kDH));
         p = reinterpret_cast<GexiResizeSpec*>(record.data());
         init({kW, kH}, {kDW, kDH}, p);
-        buf.resize(gex::resize::super_buffer_size(gex::resize::spec_at(static_cast<const void*>(p)), kDW, kDH,
+        buf.resize(gex::resize::super_buffer_size(gex::resize::record_at(static_cast<const void*>(p)), kDW, kDH,
                                                   channels));
     }
 };

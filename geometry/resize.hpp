@@ -49,12 +49,12 @@ struct Record {
 static_assert(sizeof(Record) <= kRecordBytes);
 
 // The block's address rounded up to 64 bytes.
-inline Record* spec_at(void* block) {
+inline Record* record_at(void* block) {
     const auto a = reinterpret_cast<std::uintptr_t>(block);
     return reinterpret_cast<Record*>((a + 63) & ~std::uintptr_t{63});
 }
-inline const Record* spec_at(const void* block) {
-    return spec_at(const_cast<void*>(block));
+inline const Record* record_at(const void* block) {
+    return record_at(const_cast<void*>(block));
 }
 
 // Euclid on 32-bit values.
@@ -113,7 +113,7 @@ constexpr std::uint64_t round_up32(std::uint64_t n) { return (n + 31) & ~std::ui
 
 // Record bytes of a super-sampling record (the 64 of the block's rounding
 // included): both position tables, then both weight tables on 32-byte bounds.
-inline std::uint64_t super_spec_size(std::uint64_t srcW, std::uint64_t srcH, std::uint64_t dstW,
+inline std::uint64_t super_record_size(std::uint64_t srcW, std::uint64_t srcH, std::uint64_t dstW,
                                      std::uint64_t dstH) {
     const std::uint64_t gx = gcd32(std::uint32_t(srcW), std::uint32_t(dstW));
     const std::uint64_t gy = gcd32(std::uint32_t(srcH), std::uint32_t(dstH));
@@ -182,7 +182,7 @@ inline GexStatus check_run(const RunArgs& a, IdTest idTest, std::uint32_t elemSi
     if (a.pSrc == nullptr || a.pDst == nullptr || a.pSpec == nullptr || a.pBuffer == nullptr)
         return gexStsNullPtr;
     if (a.width == 0 || a.height == 0) return gexStsNoOperation;
-    const Record* s = spec_at(a.pSpec);
+    const Record* s = record_at(a.pSpec);
     if (!id_matches(s, idTest)) return gexStsContextMatch;
     if (a.width < 1 || a.height < 1) return gexStsSize;
     if (elemSize > 1 && (a.srcStep % elemSize != 0 || a.dstStep % elemSize != 0)) return gexStsStep;

@@ -142,7 +142,7 @@ void layout_weight_rows(Record* s, std::uint8_t* end, int nt) {
 }  // namespace
 
 void init_nearest(const Dims& d, std::uint32_t id, void* pSpec) {
-    Record* s = spec_at(pSpec);
+    Record* s = record_at(pSpec);
     set_fields(s, kTypeFloat, kNearest, 0, d.srcW, d.srcH, d.dstW, d.dstH);
     layout_positions(s, behind_record(s));
     build_nearest_axis(s->yAxis);
@@ -151,7 +151,7 @@ void init_nearest(const Dims& d, std::uint32_t id, void* pSpec) {
 }
 
 void init_linear(const Dims& d, LinearTable table, std::uint32_t id, void* pSpec) {
-    Record* s = spec_at(pSpec);
+    Record* s = record_at(pSpec);
     set_fields(s, table == LinearTable::Double ? kTypeDouble : kTypeFloat, kLinear, 1, d.srcW, d.srcH, d.dstW,
                d.dstH);
     if (table == LinearTable::Double) {
@@ -183,7 +183,7 @@ void init_linear(const Dims& d, LinearTable table, std::uint32_t id, void* pSpec
 }
 
 void init_cubic(const Dims& d, float B, float C, std::uint32_t id, void* pSpec, void* pInitBuf) {
-    Record* s = spec_at(pSpec);
+    Record* s = record_at(pSpec);
     set_fields(s, kTypeFloat, kCubic, 2, d.srcW, d.srcH, d.dstW, d.dstH);
     std::uint8_t* end = layout_positions(s, behind_record(s));
     float* fracY = reinterpret_cast<float*>(align_up(pInitBuf, 64));
@@ -199,7 +199,7 @@ GexStatus init_lanczos(const Dims& d, std::uint32_t numLobes, std::uint32_t id, 
     // The scalar fields, the identifier and the positions go in before the
     // lobe count and the source's minimum are tested: a failing call leaves a
     // record that names itself but has no weights (runs refuse it).
-    Record* s = spec_at(pSpec);
+    Record* s = record_at(pSpec);
     set_fields(s, kTypeFloat, kLanczos, numLobes, d.srcW, d.srcH, d.dstW, d.dstH);
     std::uint8_t* end = layout_positions(s, behind_record(s));
     s->id = id;

@@ -59,7 +59,7 @@ GexStatus sizes(std::int64_t sw, std::int64_t sh, std::int64_t dw, std::int64_t 
         record = (W32 + H32) * 4 + kRecordBytes + (((W * 6 + 191) >> 5) + ((H * 6 + 191) >> 5)) * 128 + 64;
         init = (W32 + H32) * 4 + 64;
         break;
-    default: record = super_spec_size(std::uint64_t(sw), std::uint64_t(sh), W, H); break;
+    default: record = super_record_size(std::uint64_t(sw), std::uint64_t(sh), W, H); break;
     }
     return aa != 0 ? gexStsNoAntialiasing : gexStsOk;
 }
@@ -99,7 +99,7 @@ bool id_ok(const Record* s, QForm f) {
 
 GexStatus border_size(const GexiResizeSpec* pSpec, GexiBorderSize* pBorderSize, QForm f) {
     GEX_CHECK(check_null(pSpec, pBorderSize));
-    const Record* s = spec_at(pSpec);
+    const Record* s = record_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     *pBorderSize = s->borderSize;
     return gexStsOk;
@@ -125,7 +125,7 @@ std::int64_t extent(const Record* s, const Axis& ax, std::int64_t off, std::int6
 template <class P>
 GexStatus src_offset(const GexiResizeSpec* pSpec, P dstOffset, P* pSrcOffset, QForm f) {
     GEX_CHECK(check_null(pSpec, pSrcOffset));
-    const Record* s = spec_at(pSpec);
+    const Record* s = record_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (!offset_in(s, dstOffset.x, dstOffset.y)) return gexStsOutOfRange;
     pSrcOffset->x = decltype(pSrcOffset->x)(origin(s, s->xAxis, dstOffset.x));
@@ -137,7 +137,7 @@ template <class P, class S>
 GexStatus src_roi(const GexiResizeSpec* pSpec, P dstOffset, S dstSize, P* pSrcOffset, S* pSrcSize, QForm f) {
     GEX_CHECK(check_null(pSpec, pSrcOffset, pSrcSize));
     GEX_CHECK(check_roi(dstSize));
-    const Record* s = spec_at(pSpec);
+    const Record* s = record_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (!offset_in(s, dstOffset.x, dstOffset.y)) return gexStsOutOfRange;
     const std::int64_t w = std::min<std::int64_t>(dstSize.width, std::int64_t(s->xAxis.dstLen) - dstOffset.x);
@@ -152,7 +152,7 @@ GexStatus src_roi(const GexiResizeSpec* pSpec, P dstOffset, S dstSize, P* pSrcOf
 template <class S>
 GexStatus buffer_size(const GexiResizeSpec* pSpec, S dstSize, Gex32u channels, std::uint64_t& out, QForm f) {
     if (dstSize.width == 0 || dstSize.height == 0) return gexStsNoOperation;
-    const Record* s = spec_at(pSpec);
+    const Record* s = record_at(pSpec);
     if (!id_ok(s, f)) return gexStsContextMatch;
     if (channels != 1 && channels != 3 && channels != 4) return gexStsNumChannels;
     GEX_CHECK(check_roi(dstSize));

@@ -58,7 +58,7 @@ GexStatus resize_run(const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t 
         if (!border_ok(border)) return gexStsBorder;
     const RunArgs a{pSrc, srcStep, pDst, dstStep, offX, offY, width, height, pSpec, pBuffer};
     GEX_CHECK(check_run(a, id_test<T, Large>(), sizeof(T), method_code(K)));
-    const Record* s = spec_at(pSpec);
+    const Record* s = record_at(pSpec);
     if (!tables_ok<T, K>(s)) return gexStsContextMatch;
 
     const Tile<T> t = prepare_tile(s, pSrc, srcStep, pDst, dstStep, offX, offY, width, height, pBuffer, C);

@@ -51,7 +51,7 @@ void build_axis(Axis& ax, std::int32_t* pos, float* w) {
 // Writes the record; the identifier goes in last.
 void build_spec(std::int64_t srcW, std::int64_t srcH, std::int64_t dstW, std::int64_t dstH, GexiResizeSpec* pSpec,
                 std::uint32_t id) {
-    Record* s = resize::spec_at(static_cast<void*>(pSpec));
+    Record* s = resize::record_at(static_cast<void*>(pSpec));
     s->dataType = resize::kTypeFloat;
     s->interpolation = kMethod;
     s->tapsX = 0;
@@ -130,7 +130,7 @@ GexStatus run(const T* pSrc, std::int64_t srcStep, T* pDst, std::int64_t dstStep
     const resize::RunArgs args{pSrc, srcStep, pDst, dstStep, offX, offY, width, height, pSpec, pBuffer};
     GEX_CHECK(resize::check_run(args, idTest, sizeof(T), kMethod));
 
-    const Record* s = resize::spec_at(static_cast<const void*>(pSpec));
+    const Record* s = resize::record_at(static_cast<const void*>(pSpec));
     const Axis& ax = s->xAxis;
     const Axis& ay = s->yAxis;
     const std::int64_t w = std::min<std::int64_t>(width, std::int64_t(ax.dstLen) - offX);

@@ -97,7 +97,7 @@ struct Record {
     GexStatus status = 0;
     std::size_t skew = 0;
     GexiResizeSpec* record() { return reinterpret_cast<GexiResizeSpec*>(block.data() + skew); }
-    const gex::resize::Record* raw() { return gex::resize::spec_at(record()); }
+    const gex::resize::Record* raw() { return gex::resize::record_at(record()); }
 };
 
 template <class T>

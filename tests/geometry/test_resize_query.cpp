@@ -165,7 +165,7 @@ TEST(ResizeInit, LanczosNarrowInitLeavesAHalfWrittenRecord) {
         auto* sp = reinterpret_cast<GexiResizeSpec*>(block.data());
         EXPECT_EQ(gexiResizeLanczosInit_8u({5, 5}, {9, 7}, lobes, sp, init.data()),
                   lobes == 3 ? gexStsSize : gexStsNotSupportedMode);
-        const gex::resize::Record* s = gex::resize::spec_at(sp);
+        const gex::resize::Record* s = gex::resize::record_at(sp);
         EXPECT_EQ(s->id, gex::resize::kId32);
         EXPECT_EQ(s->interpolation, 16u);
         const rt::AxisModel ax(5, 9, int(lobes));
@@ -443,7 +443,7 @@ TEST(ResizeTileQueries, BufferSizeFormulaAndChecks) {
 TEST(ResizeTileQueries, SuperSamplingPeriodGeometry) {
     std::vector<std::uint8_t> block(1024, 0);
     auto* sp = reinterpret_cast<GexiResizeSpec*>(block.data());
-    gex::resize::Record* s = gex::resize::spec_at(sp);
+    gex::resize::Record* s = gex::resize::record_at(sp);
     static std::int32_t pos[4] = {0, 1, 1, 2};
     static float w[4] = {1.0f, 0.5f, 0.5f, 1.0f};
     s->id = gex::resize::kId32;

@@ -72,11 +72,11 @@ struct Record {
     GexiResizeSpec* p;
     std::size_t size;
     Record(int sw, int sh, int dw, int dh, int misalign = 5) {
-        size = rs::super_spec_size(sw, sh, dw, dh);
+        size = rs::super_record_size(sw, sh, dw, dh);
         mem.assign(size + misalign + 64, 0xA5);
         p = reinterpret_cast<GexiResizeSpec*>(mem.data() + misalign);
     }
-    const rs::Record* record() const { return rs::spec_at(static_cast<const void*>(p)); }
+    const rs::Record* record() const { return rs::record_at(static_cast<const void*>(p)); }
     bool canary_ok() const {
         const auto* b = reinterpret_cast<const unsigned char*>(p);
         for (std::size_t i = size; b + i < mem.data() + mem.size(); ++i)
