@@ -252,13 +252,19 @@ void real_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
     }
 }
 
-// Single-channel forward, source and destination apart, heights the column
-// transform splits (fft_split_block): the first column passes only combine
-// the rows of one block of B, so each block's rows are transformed and
-// written in the order those passes read them, and the passes run (through
-// the buffer, back into the same rows) while the rows are still in cache.
-// The work buffer decides: short columns split only when the rows are wide
-// enough to size it for a block. The columns outside the eight-column
+// Below 2 MB an image and its result stay together in a second-level cache,
+// where whole columns already run from the cache and the blocked order only
+// adds its copies and scattered row reads.
+constexpr std::int64_t kSplitMinPixels = std::int64_t{1} << 19;
+
+// Single-channel forward, source and destination apart, from 2 MB, heights
+// the column transform splits (fft_split_block): the first column passes
+// only combine the rows of one block of B, so each block's rows are
+// transformed and written in the order those passes read them, and the
+// passes run (through the buffer, back into the same rows) while the rows
+// are still in cache.
+// The work buffer decides too: short columns split only when the rows are
+// wide enough to size it for a block. The columns outside the eight-column
 // groups (the real ones and the last few complex ones) are copied to the
 // buffer at the same time. Then each offset's rows finish in place, which
 // leaves the groups in natural row order, and take their other columns from
@@ -291,7 +297,7 @@ bool split_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int6
         const std::int64_t tailBytes = fft::align64up(std::int64_t{4} * H * (2 + 2 * nx));
         const std::int64_t room = std::int64_t{s->bufferSize} - 64 - tailBytes;
         const std::int64_t B = fft::fft_split_block(colC, room);
-        if (B == 0 || nG == 0 || W % 2 != 0 ||
+        if (B == 0 || nG == 0 || W % 2 != 0 || std::int64_t{W} * H < kSplitMinPixels ||
             std::max({std::int64_t{rowS->workSize}, std::int64_t{colR->workSize}, std::int64_t{colC->workSize}}) > room ||
             !split_apart(src, sstep, dst, dstep, W, H))
             return false;
