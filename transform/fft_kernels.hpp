@@ -372,9 +372,10 @@ inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
     return (j / B) * 3 * B + (t - 1) * B + j % B;
 }
 
-// One butterfly of the pass below: offset j of the group at src / dst. The
-// _at form addresses its elements a + t M apart from the twiddles' offset j
-// and span L (a sequence taken every so many elements of a longer one).
+// One butterfly of the pass below (L >= 8 there, any L here) with the
+// twiddles of offset j and span L, its elements a + t M apart at src / dst
+// (a sequence taken every so many elements of a longer one: M = L, a = j in
+// the pass itself).
 template <bool INV, class V, class PI, class PO>
 inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j, std::int64_t L, const Gex32fc* tw,
                   float scl, bool doScale) {
@@ -394,10 +395,6 @@ inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j
     st(dst + (a + 2 * M), a2);
     st(dst + (a + 3 * M), a3);
 }
-template <bool INV, class V, class PI, class PO>
-inline void r4_one(PI src, PO dst, std::int64_t j, std::int64_t L, const Gex32fc* tw, float scl, bool doScale) {
-    r4_at<INV, V>(src, dst, j, L, j, L, tw, scl, doScale);
-}
 
 template <bool INV, class V, class PI, class PO>
 inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc* tw, float scl,
@@ -414,7 +411,22 @@ inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc
                         prefetch(dst + (j + kPrefetchAhead + t * L));
                     }
             }
-            r4_one<INV, V>(src, dst, j, L, tw, scl, doScale);
+            const Gex32fc* w = tw + (j / 8) * 24 + (j % 8);
+            V a0 = ld<V>(src + j), a1 = ld<V>(src + j + 2 * L), a2 = ld<V>(src + j + L), a3 = ld<V>(src + j + 3 * L);
+            a1 = twiddle<INV>(a1, ldtw<V>(w));
+            a2 = twiddle<INV>(a2, ldtw<V>(w + 8));
+            a3 = twiddle<INV>(a3, ldtw<V>(w + 16));
+            dft4<INV>(a0, a1, a2, a3);
+            if (doScale) {
+                a0 = scale(a0, scl);
+                a1 = scale(a1, scl);
+                a2 = scale(a2, scl);
+                a3 = scale(a3, scl);
+            }
+            st(dst + j, a0);
+            st(dst + j + L, a1);
+            st(dst + j + 2 * L, a2);
+            st(dst + j + 3 * L, a3);
         }
     }
 }
