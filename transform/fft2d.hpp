@@ -252,15 +252,24 @@ void real_columns(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int64
     }
 }
 
-// Single-channel forward, 1024 rows, source and destination apart: the
-// first column passes only combine the rows of one block of 64 (see
-// fft_split_head), so each block's rows are transformed and written next to
-// each other and its column passes run while those rows are still in cache;
-// the columns outside the eight-column groups (the real ones and the last
-// few complex ones) are copied to the buffer at the same time. Then each
-// offset's 16 rows finish in place, which leaves the groups in natural row
-// order, and take their other columns from the buffer. Every value comes out
-// with the bits of rows first, then whole columns.
+// Below 2 MB an image and its result stay together in a second-level cache,
+// where whole columns already run from the cache and the blocked order only
+// adds its copies and scattered row reads.
+constexpr std::int64_t kSplitMinPixels = std::int64_t{1} << 19;
+
+// Single-channel forward, source and destination apart, from 2 MB, heights
+// the column transform splits (fft_split_block): the first column passes
+// only combine the rows of one block of B, so each block's rows are
+// transformed and written in the order those passes read them, and the
+// passes run (through the buffer, back into the same rows) while the rows
+// are still in cache.
+// The work buffer decides too: short columns split only when the rows are
+// wide enough to size it for a block. The columns outside the eight-column
+// groups (the real ones and the last few complex ones) are copied to the
+// buffer at the same time. Then each offset's rows finish in place, which
+// leaves the groups in natural row order, and take their other columns from
+// the buffer. Every value comes out with the bits of rows first, then whole
+// columns.
 inline bool split_apart(const Gex32f* src, std::int64_t sstep, const Gex32f* dst, std::int64_t dstep, int W, int H) {
     auto span = [&](const Gex32f* p, std::int64_t step) {
         const auto a = reinterpret_cast<std::uintptr_t>(p);
@@ -287,39 +296,35 @@ bool split_forward(const Gex32f* src, std::int64_t sstep, Gex32f* dst, std::int6
         // column and block work the rest
         const std::int64_t tailBytes = fft::align64up(std::int64_t{4} * H * (2 + 2 * nx));
         const std::int64_t room = std::int64_t{s->bufferSize} - 64 - tailBytes;
-        if (H != (1 << fft::kSplitOrder) || nG == 0 || W % 2 != 0 || !fft::fft_split_ok(colC) ||
-            std::max({std::int64_t{4096}, std::int64_t{rowS->workSize}, std::int64_t{colR->workSize},
-                      std::int64_t{colC->workSize}}) > room ||
+        const std::int64_t B = fft::fft_split_block(colC, room);
+        if (B == 0 || nG == 0 || W % 2 != 0 || std::int64_t{W} * H < kSplitMinPixels ||
+            std::max({std::int64_t{rowS->workSize}, std::int64_t{colR->workSize}, std::int64_t{colC->workSize}}) > room ||
             !split_apart(src, sstep, dst, dstep, W, H))
             return false;
         Gex32f* T0 = reinterpret_cast<Gex32f*>(fft::align64(buf));
         Gex32f* T1 = T0 + H;
         Gex32fc* Tc = reinterpret_cast<Gex32fc*>(T1 + H);
         Gex8u* work = reinterpret_cast<Gex8u*>(T0) + tailBytes;
-        std::int32_t rs[256];
-        fft::fft_split_blocks(colC, rs);
         auto group = [&](std::int64_t y, std::int64_t g) {
             return fftk::SPtr{reinterpret_cast<Gex8u*>(row(dst, dstep, y) + 1 + 16 * g), dstep};
         };
-        for (int b = 0; b < 16; ++b) {
-            for (int i = 0; i < 64; ++i) {
-                const int y = rs[16 * b + (i & 15)] + 256 * (i >> 4);
-                Gex32f* d = row(dst, dstep, 64 * b + i);
+        for (std::int64_t b = 0; b < H; b += B) {
+            for (std::int64_t i = b; i < b + B; ++i) {
+                const std::int64_t y = fft::fft_split_input(colC, i);
+                Gex32f* d = row(dst, dstep, i);
                 E::fwdR(row(src, sstep, y), d, rowS, work);
                 T0[y] = d[0];
                 T1[y] = d[W - 1];
                 for (std::int64_t k = 0; k < nx; ++k) Tc[k * H + y] = {d[x0 + 2 * k], d[x0 + 2 * k + 1]};
             }
-            for (std::int64_t g = 0; g < nG; ++g)
-                fft::fft_split_head(group(64 * b, g), group(64 * b, g), colC, work, rs + 16 * b);
+            for (std::int64_t g = 0; g < nG; ++g) fft::fft_split_head(group(b, g), colC, B, work);
         }
         E::fwdR(T0, T0, colR, work);
         E::fwdR(T1, T1, colR, work);
         for (std::int64_t k = 0; k < nx; ++k) E::runC(Tc + k * H, Tc + k * H, colC, work, false);
-        for (int j = 0; j < 64; ++j) {
-            fft::fft_split_tail(group(0, 0), nG, colC, j);
-            for (int u = 0; u < 16; ++u) {
-                const int y = j + 64 * u;
+        for (std::int64_t j = 0; j < B; ++j) {
+            fft::fft_split_tail(group(0, 0), nG, colC, B, j, work);
+            for (std::int64_t y = j; y < H; y += B) {
                 Gex32f* d = row(dst, dstep, y);
                 d[0] = T0[y];
                 d[W - 1] = T1[y];

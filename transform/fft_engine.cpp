@@ -14,6 +14,7 @@
 // A real transform of length N runs the complex transform of N/2 on the
 // sample pairs and recombines the two halves of the spectrum.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 
@@ -223,24 +224,27 @@ void first_pass_inplace(Gex32fc* d, std::int64_t n) {
 // columns r and r + n/8 feed the neighbouring groups 2G, 2G + 1 (G the
 // reversed r), which the radix-2 step combines with w8^f; the operations are
 // those of the two passes one after the other.
+// One column of it: the 4-point DFTs of a, a + q, a + 2q, a + 3q and of b, ...,
+// combined by the radix-2 step into d .. d + 7.
+template <bool INV, class V, class PI, class PO>
+inline void first8_one(PI a, PI b, std::int64_t q, PO d, const Gex32fc* tw2) {
+    V a0 = ld<V>(a), a1 = ld<V>(a + q), a2 = ld<V>(a + 2 * q), a3 = ld<V>(a + 3 * q);
+    V b0 = ld<V>(b), b1 = ld<V>(b + q), b2 = ld<V>(b + 2 * q), b3 = ld<V>(b + 3 * q);
+    dft4<INV>(a0, a1, a2, a3);
+    dft4<INV>(b0, b1, b2, b3);
+    const V A[4] = {a0, a1, a2, a3};
+    const V B[4] = {b0, b1, b2, b3};
+    for (int f = 0; f < 4; ++f) {
+        const V t = twiddle<INV>(B[f], ldtw<V>(tw2 + f));
+        st(d + f, add(A[f], t));
+        st(d + (f + 4), sub(A[f], t));
+    }
+}
+
 template <bool INV, class V = C1, class PI, class PO>
 void first8_pass_c1(PI src, PO dst, std::int64_t n, const std::int32_t* br, const Gex32fc* tw2) {
     const std::int64_t q = n / 4, q8 = n / 8;
-    for (std::int64_t r = 0; r < q8; ++r) {
-        V a0 = ld<V>(src + r), a1 = ld<V>(src + r + q), a2 = ld<V>(src + r + 2 * q), a3 = ld<V>(src + r + 3 * q);
-        V b0 = ld<V>(src + r + q8), b1 = ld<V>(src + r + q8 + q), b2 = ld<V>(src + r + q8 + 2 * q),
-          b3 = ld<V>(src + r + q8 + 3 * q);
-        dft4<INV>(a0, a1, a2, a3);
-        dft4<INV>(b0, b1, b2, b3);
-        const V A[4] = {a0, a1, a2, a3};
-        const V B[4] = {b0, b1, b2, b3};
-        const auto d = dst + 4 * std::int64_t{br[r]};
-        for (int f = 0; f < 4; ++f) {
-            const V t = twiddle<INV>(B[f], ldtw<V>(tw2 + f));
-            st(d + f, add(A[f], t));
-            st(d + (f + 4), sub(A[f], t));
-        }
-    }
+    for (std::int64_t r = 0; r < q8; ++r) first8_one<INV, V>(src + r, src + (r + q8), q, dst + 4 * std::int64_t{br[r]}, tw2);
 }
 
 template <bool INV>
@@ -808,34 +812,104 @@ void fft::fft_run_batch(SPtr src, SPtr dst, const FftSpec* s, Gex8u* buf, bool i
     }
 }
 
-// The batched order-10 forward transform in two parts. Its first pass and
-// the fused spans 4 and 16 only ever combine the 64 outputs of one block
-// (outputs 64b .. 64b + 63, fed by the inputs r + 256k for the 16 r whose
-// reversal br[r] lies in 16b .. 16b + 15); the fused spans 64 and 256 only
-// combine the 16 elements j + 64u of one offset j. Run block by block and
-// offset by offset, the operations on every element are those of
-// fft_run_batch, in the same order.
-bool fft::fft_split_ok(const FftSpec* s) { return fft_batch_ok(s) && s->corder == kSplitOrder; }
-
-void fft::fft_split_blocks(const FftSpec* s, std::int32_t* rs) {
-    int count[16] = {};
-    for (int r = 0; r < 256; ++r) {
-        const int b = s->pBitRev[r] >> 4;
-        rs[16 * b + count[b]++] = r;
+// The batched forward transform in two parts, split at a span B where a
+// stage ends. The first pass and the passes of spans below B only ever
+// combine the B consecutive outputs of one block: the group of the first
+// pass at place 4p (8p for odd stage counts) reads the inputs
+// r + (n/4) k (r + (n/8) k) with r the reversal of p (of 2p), so with those
+// inputs laid out in that order a block depends on nothing else. The passes
+// of span B and above only combine the n/B elements j + B u of one offset j.
+// Run block by block and offset by offset, every element goes through the
+// operations of fft_run_batch in the same order (two fused passes are the
+// two passes one after the other), so the bits are the same. The head, and a
+// tail of more than one pass, run between the data and the work buffer: rows
+// a power-of-two step apart share their cache sets, the buffer's contiguous
+// elements do not.
+namespace {
+// The passes of spans L0 <= L < L1 over m elements: pass p reads `in` when
+// it is the first, writes `out` when it is the last and the buffer t
+// otherwise. The element at view place v (of the m) has the index o + S v of
+// the whole transform: the twiddles are those of its offset there.
+void split_passes(SPtr in, SPtr out, SPtr t, std::int64_t m, std::int64_t o, std::int64_t S, std::int64_t L0,
+                  std::int64_t L1, const FftSpec* s, bool last) {
+    const std::int64_t n = std::int64_t{1} << s->corder;
+    const float scl = s->normFactor;
+    const bool doScale = last && s->scaleFwd != 0;
+    bool first = true;
+    for (std::int64_t L = L0; L < L1;) {
+        const Gex32fc* tw = s->pTwiddle + (L - 4);  // the tables of span L start at L - 4 for either parity
+        const std::int64_t Lv = L / S;               // span in view places
+        // two spans at a time while both are left; pairing them otherwise
+        // than fft_run_batch does changes no operation
+        const bool pair = 4 * L <= n / 4 && 16 * L <= L1;
+        const std::int64_t next = pair ? 16 * L : 4 * L;
+        const SPtr src = first ? in : t, dst = next >= L1 ? out : t;
+        const bool fin = next >= L1 && doScale;
+        for (std::int64_t h = 0; h < m; h += (pair ? 16 : 4) * Lv)
+            for (std::int64_t i = 0; i < Lv; ++i) {
+                if (pair) r4x2_at<false, CB>(src + h, dst + h, i, Lv, o + S * i, L, tw, tw + 3 * L, scl, fin);
+                else r4_at<false, CB>(src + h, dst + h, i, Lv, o + S * i, L, tw, scl, fin);
+            }
+        first = false;
+        L = next;
     }
 }
+}  // namespace
 
-void fft::fft_split_head(SPtr in, SPtr out, const FftSpec* s, Gex8u* buf, const std::int32_t* rs) {
-    const SPtr t = {align64(buf), 64};
-    for (int m = 0; m < 16; ++m) first_one<false, CB>(in + m, 16, t + 4 * std::int64_t{s->pBitRev[rs[m]] & 15});
-    r4x2_pass<false, CB>(t, out, 64, 4, s->pTwiddle, s->pTwiddle + 12, 1.0f, false);
+bool fft::fft_split_ok(const FftSpec* s, std::int64_t B) {
+    if (!fft_batch_ok(s) || s->corder < kSplitMinOrder || s->corder > kSplitMaxOrder) return false;
+    const std::int64_t n = std::int64_t{1} << s->corder;
+    // B is 16, 64, 256, ... (32, 128, 512, ... when the first pass also runs
+    // the radix-2 stage), below n/4 so that the tail keeps a pass
+    const int lb = std::countr_zero(static_cast<std::uint64_t>(B));
+    return B > 0 && (B & (B - 1)) == 0 && lb >= 4 && (lb & 1) == ((s->corder - 2) & 1) && B <= n / 4;
 }
 
-void fft::fft_split_tail(SPtr data, std::int64_t groups, const FftSpec* s, int j) {
-    const Gex32fc* twA = s->pTwiddle + 60;
+std::int64_t fft::fft_split_block(const FftSpec* s, std::int64_t room) {
+    // the first pass and one fused pair: blocks of 64 rows (128 when the
+    // first pass also runs the radix-2 stage); smaller blocks leave each of
+    // their passes too little work to gain from the cache
+    const std::int64_t B = (s->corder - 2) & 1 ? 128 : 64;
+    const std::int64_t n = std::int64_t{1} << s->corder;
+    if (!fft_split_ok(s, B) || 64 * B > room || 64 * (n / B) > room) return 0;
+    return B;
+}
+
+std::int64_t fft::fft_split_input(const FftSpec* s, std::int64_t i) {
+    const std::int64_t n = std::int64_t{1} << s->corder;
+    if ((s->corder - 2) & 1) return s->pBitRev[2 * (i >> 3)] + (n / 8) * (i & 7);
+    return s->pBitRev[i >> 2] + (n / 4) * (i & 3);
+}
+
+void fft::fft_split_head(SPtr blk, const FftSpec* s, std::int64_t B, Gex8u* buf) {
+    const SPtr t = {align64(buf), 64};
+    std::int64_t L;
+    if ((s->corder - 2) & 1) {
+        for (std::int64_t p = 0; p < B; p += 8) first8_one<false, CB>(blk + p, blk + (p + 1), 2, t + p, s->pTwiddle);
+        L = 8;
+    } else {
+        for (std::int64_t p = 0; p < B; p += 4) first_one<false, CB>(blk + p, 1, t + p);
+        L = 4;
+    }
+    split_passes(t, blk, t, B, 0, 1, L, B, s, false);
+}
+
+void fft::fft_split_tail(SPtr data, std::int64_t groups, const FftSpec* s, std::int64_t B, std::int64_t j, Gex8u* buf) {
+    const std::int64_t n = std::int64_t{1} << s->corder;
+    const SPtr t = {align64(buf), 64};
+    const float scl = s->normFactor;
+    const bool doScale = s->scaleFwd != 0;
+    const Gex32fc* tw = s->pTwiddle + (B - 4);
+    if (n / B == 16) {  // one fused pair, in place
+        for (std::int64_t g = 0; g < groups; ++g) {
+            const SPtr d = {data.base + 64 * g, data.step};
+            r4x2_one<false, CB>(d, d, j, B, tw, tw + 3 * B, scl, doScale);
+        }
+        return;
+    }
     for (std::int64_t g = 0; g < groups; ++g) {
-        const SPtr d = {data.base + 64 * g, data.step};
-        r4x2_one<false, CB>(d, d, j, 64, twA, twA + 192, s->normFactor, s->scaleFwd != 0);
+        const SPtr v = {data.base + 64 * g + j * data.step, B * data.step};
+        split_passes(v, v, t, n / B, j, B, B, n, s, true);
     }
 }
 

@@ -184,18 +184,21 @@ bool fft_batch_ok(const FftSpec* s);
 void fft_run_batch(fftk::SPtr src, fftk::SPtr dst, const FftSpec* s, Gex8u* buf, bool inv);
 bool dft_batch_ok(const DftSpec* s);
 void dft_run_batch(fftk::SPtr src, fftk::SPtr dst, const DftSpec* s, Gex8u* buf, bool inv);
-// The forward batched transform of order kSplitOrder in 16 blocks and 64
-// offsets (see fft_engine.cpp): fft_split_blocks lists, block after block,
-// the 16 first-pass indices r of each block (rs[256]). fft_split_head runs
-// block b from its 64 inputs r + 256k at in + (m + 16k), m the place of r in
-// the block's list rs, to its outputs 64b + i at out + i (in == out allowed;
-// the buffer holds 4 KB). fft_split_tail finishes offset j of `groups`
-// batches 64 bytes apart: elements j + 64u at data + (j + 64u), in place.
-constexpr int kSplitOrder = 10;
-bool fft_split_ok(const FftSpec* s);
-void fft_split_blocks(const FftSpec* s, std::int32_t* rs);
-void fft_split_head(fftk::SPtr in, fftk::SPtr out, const FftSpec* s, Gex8u* buf, const std::int32_t* rs);
-void fft_split_tail(fftk::SPtr data, std::int64_t groups, const FftSpec* s, int j);
+// The forward batched transform in blocks and offsets (see fft_engine.cpp).
+// fft_split_ok: the transform splits at span B. fft_split_block gives the B
+// the image transforms use (0: none) when its two parts fit `room` bytes of
+// work buffer. Place i of the staged sequence holds input
+// fft_split_input(i); fft_split_head runs the B staged elements at blk into
+// outputs B b .. B b + B - 1 of the first passes, in place, with 64 B bytes
+// of buffer. fft_split_tail finishes offset j < B of `groups` batches 64
+// bytes apart: elements j + B u at data + (j + B u), in place, with 64 n / B
+// bytes of buffer.
+constexpr int kSplitMinOrder = 8, kSplitMaxOrder = 14;
+bool fft_split_ok(const FftSpec* s, std::int64_t B);
+std::int64_t fft_split_block(const FftSpec* s, std::int64_t room);
+std::int64_t fft_split_input(const FftSpec* s, std::int64_t i);
+void fft_split_head(fftk::SPtr blk, const FftSpec* s, std::int64_t B, Gex8u* buf);
+void fft_split_tail(fftk::SPtr data, std::int64_t groups, const FftSpec* s, std::int64_t B, std::int64_t j, Gex8u* buf);
 // The table-free kernels of lengths up to 64 (order 0..6).
 void small_fft_run(const Gex32fc* src, Gex32fc* dst, int order, bool inv, float scl, bool doScale);
 void pack_to_perm(Gex32f* d, std::int64_t n);

@@ -366,6 +366,36 @@ inline void dft_any(const V* a, V* y, int rr, const Gex32fc* cs, V* p, V* q) {
 // a_t = x[g 4L + j + rev2(t) L] * w_(4L)^(j t), then the 4-point DFT written
 // in natural order. Twiddles in
 // blocks of 8 j: w^j x8, w^2j x8, w^3j x8.
+// Index of w_(4L)^(j t) in the table of the radix-4 pass of span L.
+inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
+    const std::int64_t B = L < 8 ? L : 8;
+    return (j / B) * 3 * B + (t - 1) * B + j % B;
+}
+
+// One butterfly of the pass below (L >= 8 there, any L here) with the
+// twiddles of offset j and span L, its elements a + t M apart at src / dst
+// (a sequence taken every so many elements of a longer one: M = L, a = j in
+// the pass itself).
+template <bool INV, class V, class PI, class PO>
+inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j, std::int64_t L, const Gex32fc* tw,
+                  float scl, bool doScale) {
+    V a0 = ld<V>(src + a), a1 = ld<V>(src + (a + 2 * M)), a2 = ld<V>(src + (a + M)), a3 = ld<V>(src + (a + 3 * M));
+    a1 = twiddle<INV>(a1, ldtw<V>(tw + tw_index(j, 1, L)));
+    a2 = twiddle<INV>(a2, ldtw<V>(tw + tw_index(j, 2, L)));
+    a3 = twiddle<INV>(a3, ldtw<V>(tw + tw_index(j, 3, L)));
+    dft4<INV>(a0, a1, a2, a3);
+    if (doScale) {
+        a0 = scale(a0, scl);
+        a1 = scale(a1, scl);
+        a2 = scale(a2, scl);
+        a3 = scale(a3, scl);
+    }
+    st(dst + a, a0);
+    st(dst + (a + M), a1);
+    st(dst + (a + 2 * M), a2);
+    st(dst + (a + 3 * M), a3);
+}
+
 template <bool INV, class V, class PI, class PO>
 inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc* tw, float scl,
                     bool doScale) {
@@ -422,22 +452,16 @@ inline void transpose8x8(const __m512d* r_in, __m512d* t) {
     }
 }
 
-// Index of w_(4L)^(j t) in the table of the radix-4 pass of span L.
-inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
-    const std::int64_t B = L < 8 ? L : 8;
-    return (j / B) * 3 * B + (t - 1) * B + j % B;
-}
-
 // Two radix-4 passes, spans L and 4L, in one sweep: the sixteen elements
 // g 16L + j + u L stay in registers between them. Element by element this
 // is exactly the two passes one after the other (same operations, same
 // order), so the results do not change. twA and twB are the two passes'
-// tables; V = C8 needs L >= 8.
+// tables; V = C8 needs L >= 8. r4x2_at addresses its elements as r4_at.
 template <bool INV, class V, class PI, class PO>
-inline void r4x2_one(PI src, PO dst, std::int64_t j, std::int64_t L, const Gex32fc* twA, const Gex32fc* twB, float scl,
-             bool doScale) {
+inline void r4x2_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j, std::int64_t L,
+                    const Gex32fc* twA, const Gex32fc* twB, float scl, bool doScale) {
     V e[16];
-    for (int u = 0; u < 16; ++u) e[u] = ld<V>(src + (j + u * L));
+    for (int u = 0; u < 16; ++u) e[u] = ld<V>(src + (a + u * M));
     for (int b = 0; b < 4; ++b) {  // span L
         V a0 = e[4 * b], a1 = e[4 * b + 2], a2 = e[4 * b + 1], a3 = e[4 * b + 3];
         a1 = twiddle<INV>(a1, ldtw<V>(twA + tw_index(j, 1, L)));
@@ -456,7 +480,12 @@ inline void r4x2_one(PI src, PO dst, std::int64_t j, std::int64_t L, const Gex32
         if (doScale) a0 = scale(a0, scl), a1 = scale(a1, scl), a2 = scale(a2, scl), a3 = scale(a3, scl);
         e[q] = a0, e[4 + q] = a1, e[8 + q] = a2, e[12 + q] = a3;
     }
-    for (int u = 0; u < 16; ++u) st(dst + (j + u * L), e[u]);
+    for (int u = 0; u < 16; ++u) st(dst + (a + u * M), e[u]);
+}
+template <bool INV, class V, class PI, class PO>
+inline void r4x2_one(PI src, PO dst, std::int64_t j, std::int64_t L, const Gex32fc* twA, const Gex32fc* twB, float scl,
+                     bool doScale) {
+    r4x2_at<INV, V>(src, dst, j, L, j, L, twA, twB, scl, doScale);
 }
 
 template <bool INV, class V, class PI, class PO>
