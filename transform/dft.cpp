@@ -8,8 +8,8 @@ namespace gex {
 namespace {
 
 GexStatus dft_sub_size(bool real, int len, int flag, GexHintAlgorithm hint, t2d::SubSizes& s) {
-    return real ? gexsDFTGetSize_R_32f(len, flag, hint, &s.spec, &s.init, &s.buf)
-                : gexsDFTGetSize_C_32fc(len, flag, hint, &s.spec, &s.init, &s.buf);
+    return real ? gexsDFTGetSize_R_32f(len, flag, hint, &s.record, &s.init, &s.buf)
+                : gexsDFTGetSize_C_32fc(len, flag, hint, &s.record, &s.init, &s.buf);
 }
 
 GexStatus dft2_get_size(GexiSize roi, int flag, GexHintAlgorithm hint, int* pSpecSize, int* pInitSize,

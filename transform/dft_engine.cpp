@@ -251,7 +251,7 @@ DftSpec* plan_complex(Ctx& cx, int n, int flag, GexHintAlgorithm hint) {
         default: {
             const int L = conv_length(n);
             Gex32fc* chirp = cx.a.take<Gex32fc>(n);
-            Gex32fc* spec = cx.a.take<Gex32fc>(L);
+            Gex32fc* spectrum = cx.a.take<Gex32fc>(L);
             DftSpec* inner = plan_complex(cx, L, 8, hint);
             const std::int64_t iw = complex_work(L, hint);
             if (cx.build()) {
@@ -270,11 +270,11 @@ DftSpec* plan_complex(Ctx& cx, int n, int flag, GexHintAlgorithm hint) {
                     h[k] = {chirp[k].re, -chirp[k].im};
                     if (k) h[L - k] = h[k];
                 }
-                run_c(h, spec, inner, ib, false);
+                run_c(h, spectrum, inner, ib, false);
                 const float invL = 1.0f / static_cast<float>(L);
-                for (int k = 0; k < L; ++k) spec[k] = {spec[k].re * invL, spec[k].im * invL};
+                for (int k = 0; k < L; ++k) spectrum[k] = {spectrum[k].re * invL, spectrum[k].im * invL};
                 s->pChirp = chirp;
-                s->pSpectrum = spec;
+                s->pSpectrum = spectrum;
                 s->pSub = inner;
             }
             cx.initNeed = std::max<std::int64_t>(cx.initNeed, fft::align64up(8 * std::int64_t{L}) + iw + 64);
@@ -626,7 +626,7 @@ GexStatus dft_get_size(int length, int flag, GexHintAlgorithm hint, int* pSpecSi
     Ctx cx{{nullptr, 0}};
     if (real) plan_real(cx, length, flag, hint);
     else plan_complex(cx, length, flag, hint);
-    const std::int64_t spec = cx.a.used + 64;
+    const std::int64_t recordBytes = cx.a.used + 64;
     const std::int64_t work = real ? [&] {
         if (is_pow2(length)) return fft::fft_work_bytes(log2i(length), true);
         if (length % 2 == 0) return complex_work(length / 2, hint);
@@ -634,8 +634,8 @@ GexStatus dft_get_size(int length, int flag, GexHintAlgorithm hint, int* pSpecSi
     }()
                                    : complex_work(length, hint);
     const std::int64_t initNeed = cx.initNeed;
-    if (spec > 2147483647 || work + 64 > 2147483647) return gexStsExceededSize;
-    *pSpecSize = static_cast<int>(spec);
+    if (recordBytes > 2147483647 || work + 64 > 2147483647) return gexStsExceededSize;
+    *pSpecSize = static_cast<int>(recordBytes);
     *pInitSize = static_cast<int>(initNeed > 0 ? initNeed + 64 : 0);
     *pBufferSize = static_cast<int>(work > 0 ? work + 64 : 0);
     return gexStsOk;

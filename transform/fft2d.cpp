@@ -8,8 +8,8 @@ namespace gex {
 namespace {
 
 GexStatus fft_sub_size(bool real, int order, int flag, GexHintAlgorithm hint, t2d::SubSizes& s) {
-    return real ? gexsFFTGetSize_R_32f(order, flag, hint, &s.spec, &s.init, &s.buf)
-                : gexsFFTGetSize_C_32fc(order, flag, hint, &s.spec, &s.init, &s.buf);
+    return real ? gexsFFTGetSize_R_32f(order, flag, hint, &s.record, &s.init, &s.buf)
+                : gexsFFTGetSize_C_32fc(order, flag, hint, &s.record, &s.init, &s.buf);
 }
 
 GexStatus fft2_get_size(int orderX, int orderY, int flag, GexHintAlgorithm hint, int* pSpecSize, int* pInitSize,

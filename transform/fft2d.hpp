@@ -63,7 +63,7 @@ inline T* row(T* base, std::int64_t step, std::int64_t y) {
 
 // The engines the 2-D walk runs on.
 struct FftEngine {
-    using Spec = FftSpec;
+    using Record = FftSpec;
     static void fwdR(const Gex32f* s, Gex32f* d, const void* sp, Gex8u* b) {
         fft::fft_run_r_fwd(s, d, static_cast<const FftSpec*>(sp), b, true);
     }
@@ -79,7 +79,7 @@ struct FftEngine {
     }
 };
 struct DftEngine {
-    using Spec = DftSpec;
+    using Record = DftSpec;
     static void fwdR(const Gex32f* s, Gex32f* d, const void* sp, Gex8u* b) {
         fft::dft_run_r_fwd(s, d, static_cast<const DftSpec*>(sp), b);
     }
@@ -419,7 +419,7 @@ inline GexStatus run_checks(const void* pSpec, std::int32_t id, const void* pSrc
 
 // ---- sizes and records ----
 struct SubSizes {
-    int spec = 0, init = 0, buf = 0;
+    int record = 0, init = 0, buf = 0;
 };
 
 // The 1-D records of a 2-D record: the row record, a real column record
@@ -431,34 +431,34 @@ GexStatus sizes_2d(bool real, bool same, std::int64_t W, std::int64_t H, std::in
                    int* pInitSize, int* pBufferSize) {
     SubSizes row, colR, colC;
     GEX_CHECK(get(real, 0, row));
-    std::int64_t spec = fft::align64up(row.spec), init = fft::align64up(row.init);
+    std::int64_t recordBytes = fft::align64up(row.record), init = fft::align64up(row.init);
     if (real) {
         if (!same) {
             GEX_CHECK(get(true, 1, colR));
-            spec += fft::align64up(colR.spec);
+            recordBytes += fft::align64up(colR.record);
             init += fft::align64up(colR.init);
         } else {
             colR = row;
         }
         GEX_CHECK(get(false, 1, colC));
-        spec += fft::align64up(colC.spec);
+        recordBytes += fft::align64up(colC.record);
         init += fft::align64up(colC.init);
     } else if (!same) {
         GEX_CHECK(get(false, 1, colC));
-        spec += fft::align64up(colC.spec);
+        recordBytes += fft::align64up(colC.record);
         init += fft::align64up(colC.init);
     } else {
         colC = row;
     }
-    spec += headExtra;
+    recordBytes += headExtra;
     if (init > 0) init += 64;
     std::int64_t buf;
     if (real)
         buf = fft::align64up(std::max({row.buf + 16 * W, colC.buf + 64 * H, colR.buf + 16 * H})) + 64;
     else
         buf = fft::align64up(std::max(colC.buf + 64 * H, std::int64_t{row.buf})) + 64;
-    if (spec > 2147483647 || init > 2147483647 || buf > 2147483647) return gexStsExceededSize;
-    *pSpecSize = static_cast<int>(spec);
+    if (recordBytes > 2147483647 || init > 2147483647 || buf > 2147483647) return gexStsExceededSize;
+    *pSpecSize = static_cast<int>(recordBytes);
     *pInitSize = static_cast<int>(init);
     *pBufferSize = static_cast<int>(buf);
     return gexStsOk;
@@ -484,7 +484,7 @@ GexStatus init_2d(Gex8u* pSpec, std::int32_t id, int x, int y, std::int64_t W, s
         SubSizes ss;
         GEX_CHECK(sizeOf(r, axis, ss));
         GEX_CHECK(build(r, axis, base + off, init, recs[slot]));
-        off += fft::align64up(ss.spec);
+        off += fft::align64up(ss.record);
         return gexStsOk;
     };
     GEX_CHECK(add(real, 0, 0));

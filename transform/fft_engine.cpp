@@ -931,23 +931,23 @@ GexStatus fft_get_size(int order, int flag, int* pSpecSize, int* pSpecBufferSize
     if (order > hardLimit) return gexStsFFTOrder;
     const int c = real ? order - 1 : order;
     const std::int64_t n = std::int64_t{1} << order;
-    std::int64_t spec, specBuf = 0, work = 0;
+    std::int64_t recordBytes, specBuf = 0, work = 0;
     if (c <= 6 && (!real || order <= 4)) {
-        spec = 208;
+        recordBytes = 208;
     } else if (c <= 6) {
-        spec = 256 + fft::align64up(8 * (n / 4 + 1));
+        recordBytes = 256 + fft::align64up(8 * (n / 4 + 1));
     } else {
         const std::int64_t nc = std::int64_t{1} << c;
         if (c <= 18) {
-            spec = fft::align64down(8 * nc + 71) + fft::align64down(nc + 67) + 256;
-            if (real) spec += fft::align64up(8 * (n / 4 + 1));
+            recordBytes = fft::align64down(8 * nc + 71) + fft::align64down(nc + 67) + 256;
+            if (real) recordBytes += fft::align64up(8 * (n / 4 + 1));
         } else {
-            spec = fft::fft_spec_bytes(order, real) + 256;
+            recordBytes = fft::fft_spec_bytes(order, real) + 256;
         }
         work = fft::fft_work_bytes(order, real) + 64;
     }
     if (order >= 11) specBuf = fft::align64down(n + 67) + 64;
-    *pSpecSize = static_cast<int>(spec);
+    *pSpecSize = static_cast<int>(recordBytes);
     *pSpecBufferSize = static_cast<int>(specBuf);
     *pBufferSize = static_cast<int>(work);
     return gexStsOk;

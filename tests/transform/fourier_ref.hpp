@@ -88,7 +88,7 @@ inline double error_ratio(const std::vector<cd>& ref, const Gex32fc* got, double
 
 // Records of the 1-D engine in vectors of bytes.
 struct Fft1 {
-    std::vector<Gex8u> spec, init, buf;
+    std::vector<Gex8u> record, init, buf;
     gex::FftSpec* s = nullptr;
     GexStatus st = 0;
     Fft1(int order, int flag, bool real) {
@@ -96,16 +96,16 @@ struct Fft1 {
         st = real ? gex::gexsFFTGetSize_R_32f(order, flag, gexAlgHintNone, &a, &b, &c)
                   : gex::gexsFFTGetSize_C_32fc(order, flag, gexAlgHintNone, &a, &b, &c);
         if (st) return;
-        spec.assign(a, 0);
+        record.assign(a, 0);
         init.assign(b + 1, 0);
         buf.assign(c + 1, 0);
-        st = real ? gex::gexsFFTInit_R_32f(&s, order, flag, gexAlgHintNone, spec.data() + 1, init.data())
-                  : gex::gexsFFTInit_C_32fc(&s, order, flag, gexAlgHintNone, spec.data() + 1, init.data());
+        st = real ? gex::gexsFFTInit_R_32f(&s, order, flag, gexAlgHintNone, record.data() + 1, init.data())
+                  : gex::gexsFFTInit_C_32fc(&s, order, flag, gexAlgHintNone, record.data() + 1, init.data());
     }
 };
 
 struct Dft1 {
-    std::vector<Gex8u> spec, init, buf;
+    std::vector<Gex8u> record, init, buf;
     gex::DftSpec* s = nullptr;
     GexStatus st = 0;
     Dft1(int n, int flag, bool real) {
@@ -113,10 +113,10 @@ struct Dft1 {
         st = real ? gex::gexsDFTGetSize_R_32f(n, flag, gexAlgHintNone, &a, &b, &c)
                   : gex::gexsDFTGetSize_C_32fc(n, flag, gexAlgHintNone, &a, &b, &c);
         if (st) return;
-        spec.assign(a, 0);
+        record.assign(a, 0);
         init.assign(b + 1, 0);
         buf.assign(c + 1, 0);
-        s = reinterpret_cast<gex::DftSpec*>(spec.data() + 3);
+        s = reinterpret_cast<gex::DftSpec*>(record.data() + 3);
         st = real ? gex::gexsDFTInit_R_32f(n, flag, gexAlgHintNone, s, init.data())
                   : gex::gexsDFTInit_C_32fc(n, flag, gexAlgHintNone, s, init.data());
     }

@@ -317,15 +317,15 @@ TEST(Fft1d, Statuses) {
     EXPECT_EQ(gex::gexsFFTGetSize_R_32f(29, 8, gexAlgHintNone, &a, &b, &c), 0);
     EXPECT_EQ(gex::gexsFFTGetSize_R_32f(30, 8, gexAlgHintNone, &a, &b, &c), gexStsFFTOrder);
 
-    std::vector<Gex8u> spec(1 << 16), sb(1 << 14);
+    std::vector<Gex8u> record(1 << 16), sb(1 << 14);
     FftSpec* s = nullptr;
-    EXPECT_EQ(gex::gexsFFTInit_C_32fc(nullptr, 5, 8, gexAlgHintNone, spec.data(), sb.data()), gexStsNullPtr);
-    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 29, 8, gexAlgHintNone, spec.data(), sb.data()), gexStsFFTOrder);
+    EXPECT_EQ(gex::gexsFFTInit_C_32fc(nullptr, 5, 8, gexAlgHintNone, record.data(), sb.data()), gexStsNullPtr);
+    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 29, 8, gexAlgHintNone, record.data(), sb.data()), gexStsFFTOrder);
     EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 5, 8, gexAlgHintNone, nullptr, sb.data()), gexStsNullPtr);
-    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 5, 3, gexAlgHintNone, spec.data(), sb.data()), gexStsFFTFlag);
-    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 11, 8, gexAlgHintNone, spec.data(), nullptr), gexStsNullPtr);
-    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 10, 8, gexAlgHintNone, spec.data(), nullptr), 0);
-    EXPECT_EQ(gex::gexsFFTInit_R_32f(&s, 30, 8, gexAlgHintNone, spec.data(), sb.data()), gexStsFFTOrder);
+    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 5, 3, gexAlgHintNone, record.data(), sb.data()), gexStsFFTFlag);
+    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 11, 8, gexAlgHintNone, record.data(), nullptr), gexStsNullPtr);
+    EXPECT_EQ(gex::gexsFFTInit_C_32fc(&s, 10, 8, gexAlgHintNone, record.data(), nullptr), 0);
+    EXPECT_EQ(gex::gexsFFTInit_R_32f(&s, 30, 8, gexAlgHintNone, record.data(), sb.data()), gexStsFFTOrder);
 
     // runs: record, kind, pointers, buffer
     const Fft1 cf(8, 8, false), rf(8, 8, true);

@@ -22,7 +22,7 @@ using gextest::Layout;
 
 // A 2-D record of either family and form.
 struct Rec2 {
-    std::vector<Gex8u> spec, init, buf;
+    std::vector<Gex8u> record, init, buf;
     GexStatus st = 0;
     bool dft;
     Rec2(bool isDft, bool real, int W, int H, int flag) : dft(isDft) {
@@ -51,12 +51,12 @@ struct Rec2 {
         return k;
     }
     void alloc(int a, int b, int c) {
-        spec.assign(a + 1, 0);
+        record.assign(a + 1, 0);
         init.assign(b + 1, 0);
         buf.assign(c + 1, 0);
     }
-    GexiFFTSpec* fspec() { return reinterpret_cast<GexiFFTSpec*>(spec.data() + 1); }
-    GexiDFTSpec* dspec() { return reinterpret_cast<GexiDFTSpec*>(spec.data() + 1); }
+    GexiFFTSpec* fspec() { return reinterpret_cast<GexiFFTSpec*>(record.data() + 1); }
+    GexiDFTSpec* dspec() { return reinterpret_cast<GexiDFTSpec*>(record.data() + 1); }
     Gex8u* b() { return buf.data() + 1; }
 
     // Real forms by channel layout code: 1, 3, 4, or 5 for AC4.

@@ -180,10 +180,10 @@ TEST(PackExtend, FullSpectrumAndExactRoundTrip) {
             img.fill_random(rng);
             int a, b, c;
             ASSERT_EQ(gexiDFTGetSize_R_32f({W, H}, 8, gexAlgHintNone, &a, &b, &c), 0);
-            std::vector<Gex8u> spec(a), init(b + 1), buf(c);
-            ASSERT_EQ(gexiDFTInit_R_32f({W, H}, 8, gexAlgHintNone, reinterpret_cast<GexiDFTSpec*>(spec.data()), init.data()), 0);
+            std::vector<Gex8u> record(a), init(b + 1), buf(c);
+            ASSERT_EQ(gexiDFTInit_R_32f({W, H}, 8, gexAlgHintNone, reinterpret_cast<GexiDFTSpec*>(record.data()), init.data()), 0);
             ASSERT_EQ(gexiDFTFwd_RToPack_32f_C1R(img.ptr(), img.step(), pk.ptr(), pk.step(),
-                                                 reinterpret_cast<GexiDFTSpec*>(spec.data()), buf.data()),
+                                                 reinterpret_cast<GexiDFTSpec*>(record.data()), buf.data()),
                       0);
             Gex32fc* F = reinterpret_cast<Gex32fc*>(full.ptr());
             ASSERT_EQ(gexiPackToCplxExtend_32f32fc_C1R(pk.ptr(), {W, H}, pk.step(), F, full.step()), 0);
