@@ -56,38 +56,4 @@ GEX_EXPORT(GexStatus, gexiDFTInit_C_32fc,
     return dft2_init(roiSize, flag, hint, pSpec, pInitBuffer, false);
 }
 
-#define GEX_DFT2_REAL(name, walk, CH, C, NCH)                                                                      \
-    GEX_EXPORT(GexStatus, gexiDFT##name##_32f_##CH##R,                                                             \
-               (const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, const GexiDFTSpec* pSpec,              \
-                Gex8u* pBuffer)) {                                                                                 \
-        GEX_CHECK(t2d::run_checks(pSpec, kIdDft2R, pSrc, srcStep, pDst, dstStep, pBuffer));                        \
-        t2d::walk<t2d::DftEngine, C, NCH>(pSrc, srcStep, pDst, dstStep, t2d::spec_of(pSpec), pBuffer);             \
-        return gexStsOk;                                                                                           \
-    }                                                                                                              \
-    GEX_EXPORT(GexStatus, gexiDFT##name##_32f_##CH##IR,                                                            \
-               (Gex32f * pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec, Gex8u* pBuffer)) {                     \
-        return gex::gexiDFT##name##_32f_##CH##R(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);         \
-    }
-#define GEX_DFT2_REAL_ALL(name, walk)          \
-    GEX_DFT2_REAL(name, walk, C1, 1, 1)        \
-    GEX_DFT2_REAL(name, walk, C3, 3, 3)        \
-    GEX_DFT2_REAL(name, walk, C4, 4, 4)        \
-    GEX_DFT2_REAL(name, walk, AC4, 4, 3)
-
-GEX_DFT2_REAL_ALL(Fwd_RToPack, real_forward)
-GEX_DFT2_REAL_ALL(Inv_PackToR, real_inverse)
-
-#define GEX_DFT2_CPLX(dir, INV)                                                                                    \
-    GEX_EXPORT(GexStatus, gexiDFT##dir##_CToC_32fc_C1R,                                                            \
-               (const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep, const GexiDFTSpec* pSpec,            \
-                Gex8u* pBuffer)) {                                                                                 \
-        GEX_CHECK(t2d::run_checks(pSpec, kIdDft2C, pSrc, srcStep, pDst, dstStep, pBuffer));                        \
-        t2d::complex_2d<t2d::DftEngine>(pSrc, srcStep, pDst, dstStep, t2d::spec_of(pSpec), pBuffer, INV);          \
-        return gexStsOk;                                                                                           \
-    }                                                                                                              \
-    GEX_EXPORT(GexStatus, gexiDFT##dir##_CToC_32fc_C1IR,                                                           \
-               (Gex32fc * pSrcDst, int srcDstStep, const GexiDFTSpec* pSpec, Gex8u* pBuffer)) {                    \
-        return gex::gexiDFT##dir##_CToC_32fc_C1R(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);        \
-    }
-GEX_DFT2_CPLX(Fwd, false)
-GEX_DFT2_CPLX(Inv, true)
+GEX_FOURIER2_RUNS(DFT, DftEngine, kIdDft2R, kIdDft2C)
