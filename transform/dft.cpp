@@ -56,4 +56,4 @@ GEX_EXPORT(GexStatus, gexiDFTInit_C_32fc,
     return dft2_init(roiSize, flag, hint, pSpec, pInitBuffer, false);
 }
 
-GEX_FOURIER2_RUNS(DFT, DftEngine, kIdDft2R, kIdDft2C)
+GEX_FOURIER2_RUNS(DFT, DftEngine, GexiDFTSpec, kIdDft2R, kIdDft2C)

@@ -59,4 +59,4 @@ GEX_EXPORT(GexStatus, gexiFFTInit_C_32fc,
     return fft2_init(orderX, orderY, flag, hint, pSpec, pInitBuffer, false);
 }
 
-GEX_FOURIER2_RUNS(FFT, FftEngine, kIdFft2R, kIdFft2C)
+GEX_FOURIER2_RUNS(FFT, FftEngine, GexiFFTSpec, kIdFft2R, kIdFft2C)

@@ -520,43 +520,43 @@ inline const Spec2D* spec_of(const T* p) {
 
 }  // namespace gex
 
-// The run exports of a 2-D family: F is FFT or DFT, E its engine, IDR and IDC
-// the identifiers of its real and complex records. Real forms in C1, C3, C4,
+// The run exports of a 2-D family: F is FFT or DFT, E its engine, RT its public
+// record type, IDR and IDC the identifiers of its real and complex records. Real forms in C1, C3, C4,
 // AC4 (three channels transformed, the fourth untouched) and their in-place
 // twins; complex forms forward and inverse.
-#define GEX_FOURIER2_REAL(F, E, IDR, name, walk, CH, C, NCH)                                                      \
+#define GEX_FOURIER2_REAL(F, E, RT, IDR, name, walk, CH, C, NCH)                                                      \
     GEX_EXPORT(GexStatus, gexi##F##name##_32f_##CH##R,                                                            \
-               (const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, const Gexi##F##Spec* pSpec,           \
+               (const Gex32f* pSrc, int srcStep, Gex32f* pDst, int dstStep, const RT* pSpec,           \
                 Gex8u* pBuffer)) {                                                                                \
         GEX_CHECK(t2d::run_checks(pSpec, IDR, pSrc, srcStep, pDst, dstStep, pBuffer));                            \
         t2d::walk<t2d::E, C, NCH>(pSrc, srcStep, pDst, dstStep, t2d::spec_of(pSpec), pBuffer);                    \
         return gexStsOk;                                                                                          \
     }                                                                                                             \
     GEX_EXPORT(GexStatus, gexi##F##name##_32f_##CH##IR,                                                           \
-               (Gex32f * pSrcDst, int srcDstStep, const Gexi##F##Spec* pSpec, Gex8u* pBuffer)) {                  \
+               (Gex32f * pSrcDst, int srcDstStep, const RT* pSpec, Gex8u* pBuffer)) {                  \
         return gex::gexi##F##name##_32f_##CH##R(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);        \
     }
-#define GEX_FOURIER2_REAL_ALL(F, E, IDR, name, walk)       \
-    GEX_FOURIER2_REAL(F, E, IDR, name, walk, C1, 1, 1)     \
-    GEX_FOURIER2_REAL(F, E, IDR, name, walk, C3, 3, 3)     \
-    GEX_FOURIER2_REAL(F, E, IDR, name, walk, C4, 4, 4)     \
-    GEX_FOURIER2_REAL(F, E, IDR, name, walk, AC4, 4, 3)
-#define GEX_FOURIER2_CPLX(F, E, IDC, dir, INV)                                                                    \
+#define GEX_FOURIER2_REAL_ALL(F, E, RT, IDR, name, walk)       \
+    GEX_FOURIER2_REAL(F, E, RT, IDR, name, walk, C1, 1, 1)     \
+    GEX_FOURIER2_REAL(F, E, RT, IDR, name, walk, C3, 3, 3)     \
+    GEX_FOURIER2_REAL(F, E, RT, IDR, name, walk, C4, 4, 4)     \
+    GEX_FOURIER2_REAL(F, E, RT, IDR, name, walk, AC4, 4, 3)
+#define GEX_FOURIER2_CPLX(F, E, RT, IDC, dir, INV)                                                                    \
     GEX_EXPORT(GexStatus, gexi##F##dir##_CToC_32fc_C1R,                                                           \
-               (const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep, const Gexi##F##Spec* pSpec,         \
+               (const Gex32fc* pSrc, int srcStep, Gex32fc* pDst, int dstStep, const RT* pSpec,         \
                 Gex8u* pBuffer)) {                                                                                \
         GEX_CHECK(t2d::run_checks(pSpec, IDC, pSrc, srcStep, pDst, dstStep, pBuffer));                            \
         t2d::complex_2d<t2d::E>(pSrc, srcStep, pDst, dstStep, t2d::spec_of(pSpec), pBuffer, INV);                 \
         return gexStsOk;                                                                                          \
     }                                                                                                             \
     GEX_EXPORT(GexStatus, gexi##F##dir##_CToC_32fc_C1IR,                                                          \
-               (Gex32fc * pSrcDst, int srcDstStep, const Gexi##F##Spec* pSpec, Gex8u* pBuffer)) {                 \
+               (Gex32fc * pSrcDst, int srcDstStep, const RT* pSpec, Gex8u* pBuffer)) {                 \
         return gex::gexi##F##dir##_CToC_32fc_C1R(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);       \
     }
-#define GEX_FOURIER2_RUNS(F, E, IDR, IDC)                          \
-    GEX_FOURIER2_REAL_ALL(F, E, IDR, Fwd_RToPack, real_forward)    \
-    GEX_FOURIER2_REAL_ALL(F, E, IDR, Inv_PackToR, real_inverse)    \
-    GEX_FOURIER2_CPLX(F, E, IDC, Fwd, false)                       \
-    GEX_FOURIER2_CPLX(F, E, IDC, Inv, true)
+#define GEX_FOURIER2_RUNS(F, E, RT, IDR, IDC)                          \
+    GEX_FOURIER2_REAL_ALL(F, E, RT, IDR, Fwd_RToPack, real_forward)    \
+    GEX_FOURIER2_REAL_ALL(F, E, RT, IDR, Inv_PackToR, real_inverse)    \
+    GEX_FOURIER2_CPLX(F, E, RT, IDC, Fwd, false)                       \
+    GEX_FOURIER2_CPLX(F, E, RT, IDC, Inv, true)
 
 #pragma GCC diagnostic pop
