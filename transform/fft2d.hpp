@@ -99,22 +99,7 @@ struct DftEngine {
 inline void transpose8x8(const double* src, std::int64_t sstride, double* dst, std::int64_t dstride) {
     __m512d r[8], t[8];
     for (int i = 0; i < 8; ++i) r[i] = _mm512_loadu_pd(src + i * sstride);
-    for (int i = 0; i < 8; i += 2) {
-        t[i] = _mm512_unpacklo_pd(r[i], r[i + 1]);
-        t[i + 1] = _mm512_unpackhi_pd(r[i], r[i + 1]);
-    }
-    const __m512i a = _mm512_setr_epi64(0, 1, 8, 9, 4, 5, 12, 13), b = _mm512_setr_epi64(2, 3, 10, 11, 6, 7, 14, 15);
-    for (int i = 0; i < 8; i += 4)
-        for (int j = 0; j < 2; ++j) {
-            r[i + j] = _mm512_permutex2var_pd(t[i + j], a, t[i + j + 2]);
-            r[i + j + 2] = _mm512_permutex2var_pd(t[i + j], b, t[i + j + 2]);
-        }
-    const __m512i c = _mm512_setr_epi64(0, 1, 2, 3, 8, 9, 10, 11), d = _mm512_setr_epi64(4, 5, 6, 7, 12, 13, 14, 15);
-    for (int j = 0; j < 4; ++j) {
-        t[j] = _mm512_permutex2var_pd(r[j], c, r[j + 4]);
-        t[j + 4] = _mm512_permutex2var_pd(r[j], d, r[j + 4]);
-    }
-    // t[k] now holds column k, rows 0..7
+    fftk::transpose8x8(r, t);  // t[k] now holds column k, rows 0..7
     for (int k = 0; k < 8; ++k) _mm512_storeu_pd(dst + k * dstride, t[k]);
 }
 

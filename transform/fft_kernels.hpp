@@ -376,13 +376,15 @@ inline std::int64_t tw_index(std::int64_t j, int t, std::int64_t L) {
 // twiddles of offset j and span L, its elements a + t M apart at src / dst
 // (a sequence taken every so many elements of a longer one: M = L, a = j in
 // the pass itself).
+// One radix-4 butterfly on the elements a, a + M, a + 2M, a + 3M (read in
+// bit-reversed order), its three inputs turned by the twiddles at w1, w2, w3.
 template <bool INV, class V, class PI, class PO>
-inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j, std::int64_t L, const Gex32fc* tw,
-                  float scl, bool doScale) {
+inline void r4_one(PI src, PO dst, std::int64_t a, std::int64_t M, const Gex32fc* w1, const Gex32fc* w2,
+                   const Gex32fc* w3, float scl, bool doScale) {
     V a0 = ld<V>(src + a), a1 = ld<V>(src + (a + 2 * M)), a2 = ld<V>(src + (a + M)), a3 = ld<V>(src + (a + 3 * M));
-    a1 = twiddle<INV>(a1, ldtw<V>(tw + tw_index(j, 1, L)));
-    a2 = twiddle<INV>(a2, ldtw<V>(tw + tw_index(j, 2, L)));
-    a3 = twiddle<INV>(a3, ldtw<V>(tw + tw_index(j, 3, L)));
+    a1 = twiddle<INV>(a1, ldtw<V>(w1));
+    a2 = twiddle<INV>(a2, ldtw<V>(w2));
+    a3 = twiddle<INV>(a3, ldtw<V>(w3));
     dft4<INV>(a0, a1, a2, a3);
     if (doScale) {
         a0 = scale(a0, scl);
@@ -394,6 +396,13 @@ inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j
     st(dst + (a + M), a1);
     st(dst + (a + 2 * M), a2);
     st(dst + (a + 3 * M), a3);
+}
+
+template <bool INV, class V, class PI, class PO>
+inline void r4_at(PI src, PO dst, std::int64_t a, std::int64_t M, std::int64_t j, std::int64_t L, const Gex32fc* tw,
+                  float scl, bool doScale) {
+    r4_one<INV, V>(src, dst, a, M, tw + tw_index(j, 1, L), tw + tw_index(j, 2, L), tw + tw_index(j, 3, L), scl,
+                   doScale);
 }
 
 template <bool INV, class V, class PI, class PO>
@@ -412,21 +421,7 @@ inline void r4_pass(PI in, PO out, std::int64_t n, std::int64_t L, const Gex32fc
                     }
             }
             const Gex32fc* w = tw + (j / 8) * 24 + (j % 8);
-            V a0 = ld<V>(src + j), a1 = ld<V>(src + j + 2 * L), a2 = ld<V>(src + j + L), a3 = ld<V>(src + j + 3 * L);
-            a1 = twiddle<INV>(a1, ldtw<V>(w));
-            a2 = twiddle<INV>(a2, ldtw<V>(w + 8));
-            a3 = twiddle<INV>(a3, ldtw<V>(w + 16));
-            dft4<INV>(a0, a1, a2, a3);
-            if (doScale) {
-                a0 = scale(a0, scl);
-                a1 = scale(a1, scl);
-                a2 = scale(a2, scl);
-                a3 = scale(a3, scl);
-            }
-            st(dst + j, a0);
-            st(dst + j + L, a1);
-            st(dst + j + 2 * L, a2);
-            st(dst + j + 3 * L, a3);
+            r4_one<INV, V>(src, dst, j, L, w, w + 8, w + 16, scl, doScale);
         }
     }
 }
